@@ -1,0 +1,42 @@
+# What every target of this project is built with.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+# All binaries side by side, as they are once installed: the library finds its readers beside it.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+if(WIN32)
+  set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
+
+add_library(tervix_warnings INTERFACE)
+target_compile_options(tervix_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wformat=2
+  $<$<BOOL:${TERVIX_WARNINGS_AS_ERRORS}>:-Werror>)
+
+if(TERVIX_SANITIZE)
+  add_compile_options(-fsanitize=${TERVIX_SANITIZE} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${TERVIX_SANITIZE})
+endif()
+
+# A layer of the library: objects that go into the shared library, and that tests of its insides
+# link as they are.
+function(tervix_add_layer name)
+  cmake_parse_arguments(layer "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} OBJECT ${layer_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE TERVIX_BUILDING)
+  target_link_libraries(${name} PUBLIC ${layer_LINKS} PRIVATE tervix_warnings)
+endfunction()

@@ -1,0 +1,26 @@
+# The shared library, made of the three layers.
+
+add_library(TervixExplorer SHARED
+  $<TARGET_OBJECTS:foundation> $<TARGET_OBJECTS:model> $<TARGET_OBJECTS:project>)
+add_library(TervixExplorer::TervixExplorer ALIAS TervixExplorer)
+target_compile_features(TervixExplorer INTERFACE cxx_std_17)
+target_include_directories(TervixExplorer INTERFACE
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+  $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TervixExplorer>)
+target_link_libraries(TervixExplorer PRIVATE tvx_wobj ${CMAKE_DL_LIBS})
+set_target_properties(TervixExplorer PROPERTIES
+  LINKER_LANGUAGE CXX
+  VERSION ${PROJECT_VERSION}
+  SOVERSION ${PROJECT_VERSION_MAJOR}
+  BUILD_RPATH_USE_ORIGIN ON
+  BUILD_RPATH "$ORIGIN"
+  INSTALL_RPATH "$ORIGIN")
+if(NOT WIN32)
+  # Templates of the standard library that the compiler instantiated here are nobody's business.
+  target_link_options(TervixExplorer PRIVATE
+    "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  set_target_properties(TervixExplorer PROPERTIES
+    LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+endif()
+# The design reader is loaded at run time, from beside the library.
+add_dependencies(TervixExplorer ZelDsnReader)

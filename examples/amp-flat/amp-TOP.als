@@ -1,0 +1,10 @@
+# Aliases of schematic TOP: pin = net
+RS.1 = in
+RS.2 = s
+C1.1 = s
+C1.2 = b
+Q1.c = c
+Q1.b = b
+Q1.e = e
+C3.1 = c
+C3.2 = out

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "foundation/platform/Platform.h"
+
+namespace tervix {
+
+// Reads a text file line by line. A line of more than 1023 characters comes in pieces, so a file
+// of any kind and size can be read in little memory.
+class LineReader {
+public:
+  platform::FileReader::Opening open(const std::string& path) { return file_.open(path); }
+
+  // The next line or piece, with its line end if it has one; valid until the next call. None at
+  // the end of the file, and when reading failed.
+  std::optional<std::string_view> next();
+  bool failed() const { return failed_; }
+
+private:
+  void fill();
+
+  static constexpr std::size_t kLongestPiece = 1023;
+
+  platform::FileReader file_;
+  std::array<char, 4096> buffer_{};
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  bool atEnd_ = false;
+  bool failed_ = false;
+};
+
+} // namespace tervix

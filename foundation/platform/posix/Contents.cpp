@@ -1,0 +1,139 @@
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "foundation/platform/Platform.h"
+#include "foundation/platform/posix/FileHandle.h"
+#include "foundation/platform/posix/NativePath.h"
+
+namespace tervix::platform {
+namespace {
+
+constexpr std::size_t kCopyBlock = 8192;
+constexpr mode_t kPermissionBits = 07777;
+constexpr mode_t kNewFilePermissions = 0666;
+
+bool isRegular(const std::optional<struct stat>& status) {
+  return status && S_ISREG(status->st_mode);
+}
+
+bool copyContents(const FileHandle& source, const FileHandle& target) {
+  std::array<char, kCopyBlock> block{};
+  for (;;) {
+    const auto count = source.read(block.data(), block.size());
+    if (!count)
+      return false;
+    if (*count == 0)
+      return true;
+    if (!target.write({block.data(), *count}))
+      return false;
+  }
+}
+
+// Opens the target of a copy without touching its content yet: nothing is lost when it turns out
+// to be the source itself, or no file.
+bool openTarget(FileHandle& target, const char* path, const struct stat& source) {
+  const mode_t permissions = source.st_mode & kPermissionBits;
+  const bool isNew = target.open(path, O_WRONLY | O_CREAT | O_EXCL, permissions);
+  if (!isNew && !target.open(path, O_WRONLY))
+    return false;
+  const auto status = target.status();
+  if (!isRegular(status) || (status->st_dev == source.st_dev && status->st_ino == source.st_ino))
+    return false;
+  if (isNew && (status->st_mode & kPermissionBits) != permissions)
+    return fchmod(target.descriptor(), permissions) == 0;
+  return isNew || ftruncate(target.descriptor(), 0) == 0;
+}
+
+// The file itself where path is a link to it.
+std::string linkResolved(const char* path) {
+  const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(path, nullptr), &std::free);
+  return resolved ? resolved.get() : path;
+}
+
+bool writeNewFile(const std::string& path, std::string_view content, mode_t permissions) {
+  FileHandle file;
+  if (!file.open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, kNewFilePermissions))
+    return false;
+  const bool permitted = permissions == 0 || fchmod(file.descriptor(), permissions) == 0;
+  if (permitted && file.write(content) && file.close())
+    return true;
+  unlink(path.c_str());
+  return false;
+}
+
+} // namespace
+
+bool copyFile(const std::string& source, const std::string& target) {
+  FileHandle from;
+  if (!from.open(NativePath(source).get(), O_RDONLY))
+    return false;
+  const auto status = from.status();
+  if (!isRegular(status))
+    return false;
+  FileHandle to;
+  return openTarget(to, NativePath(target).get(), *status) && copyContents(from, to) && to.close();
+}
+
+std::string unusedNameBeside(const std::string& path) {
+  const std::string native(NativePath(path).get());
+  const std::string folder = native.substr(0, native.rfind('/') + 1);
+  const std::string stem = folder + ".tervix-" + std::to_string(getpid());
+  std::string name = stem;
+  struct stat status {};
+  for (int attempt = 1; lstat(name.c_str(), &status) == 0; ++attempt)
+    name = stem + "-" + std::to_string(attempt);
+  return name;
+}
+
+bool replaceFile(const std::string& path, std::string_view content) {
+  const std::string file = linkResolved(NativePath(path).get());
+  struct stat status {};
+  mode_t permissions = 0;
+  if (stat(file.c_str(), &status) == 0) {
+    if (!S_ISREG(status.st_mode) || access(file.c_str(), W_OK) != 0)
+      return false;
+    permissions = status.st_mode & kPermissionBits;
+  }
+  const std::string written = unusedNameBeside(file);
+  if (!writeNewFile(written, content, permissions))
+    return false;
+  if (rename(written.c_str(), file.c_str()) == 0)
+    return true;
+  unlink(written.c_str());
+  return false;
+}
+
+struct FileReader::Handle {
+  FileHandle file;
+};
+
+FileReader::FileReader() : handle_(std::make_unique<Handle>()) {}
+FileReader::~FileReader() = default;
+
+FileReader::Opening FileReader::open(const std::string& path) {
+  if (handle_->file.open(NativePath(path).get(), O_RDONLY))
+    return isRegular(handle_->file.status()) ? Opening::kOpened : Opening::kNoReadableFile;
+  switch (errno) {
+  case EMFILE:
+  case ENFILE:
+  case ENOMEM:
+  case EIO:
+  case ENOSPC:
+    return Opening::kFailed;
+  default:
+    return Opening::kNoReadableFile;
+  }
+}
+
+std::optional<std::size_t> FileReader::read(char* buffer, std::size_t size) {
+  return handle_->file.read(buffer, size);
+}
+
+} // namespace tervix::platform

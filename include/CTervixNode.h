@@ -1,0 +1,81 @@
+#ifndef CTERVIX_NODE_H
+#define CTERVIX_NODE_H
+
+#include <string>
+
+#include "TervixExport.h"
+
+// In each of these enumerations 0 means "not set".
+
+enum NODE_TYPE : int {
+  NODE_TYPE_UNSET = 0,
+  NODE_TYPE_PROJECT = 1,   // CTervixProject
+  NODE_TYPE_SCHEMATIC = 2, // CTervixSchematic
+  NODE_TYPE_PROFILE = 3    // CTervixProfile
+};
+
+enum FRONTEND_ID : int {
+  FRONTEND_ID_UNSET = 0,
+  FRONTEND_ID_PROJECT_FILE = 1, // the project was opened through its project file
+  FRONTEND_ID_DESIGN_FILE = 2   // the project was opened through its design file
+};
+
+enum PROJECT_TYPE : int {
+  PROJECT_TYPE_UNSET = 0,
+  PROJECT_TYPE_OTHER = 1,     // profile files lie in the schematic's folder
+  PROJECT_TYPE_SIMULATION = 2 // each profile has a folder of its own
+};
+
+// An element of the project tree: a name, a kind, a parent, a file path, a folder path and the
+// two classification values that it got from its project.
+//
+// A setter ignores the unset value (0, null, the empty string) and returns 0, so a field once
+// set stays set. A getter returns 1 for a field that is not set: a string output is then empty,
+// any other output is left as it was. Otherwise it returns 0.
+class TERVIX_API CTervixNode {
+public:
+  CTervixNode();
+  CTervixNode(const CTervixNode& other);
+  virtual ~CTervixNode();
+
+  // Saves or loads the variant lists of the profiles at and below this node.
+  virtual unsigned long writeVariants() = 0;
+  virtual unsigned long readVariants() = 0;
+
+  // Deliberate: assignment between tree elements copies nothing; so does clone, which returns 0.
+  CTervixNode& operator=(const CTervixNode& other); // NOLINT(misc-unconventional-assign-operator)
+  unsigned long clone(CTervixNode& other);
+
+  unsigned long setName(std::string& name);
+  unsigned long setPath(std::string& path);
+  unsigned long setFolderPath(std::string& folderPath);
+  unsigned long setType(NODE_TYPE type);
+  unsigned long setFrontEndId(FRONTEND_ID frontEndId);
+  unsigned long setProjectType(PROJECT_TYPE projectType);
+  // The parent is not owned.
+  unsigned long setParent(CTervixNode* parent);
+
+  unsigned long getName(std::string& name) const;
+  unsigned long getPath(std::string& path) const;
+  unsigned long getFolderPath(std::string& folderPath) const;
+  unsigned long getType(NODE_TYPE& type) const;
+  unsigned long getFrontEndId(FRONTEND_ID& frontEndId) const;
+  unsigned long getProjectType(PROJECT_TYPE& projectType) const;
+  unsigned long getParent(CTervixNode*& parent) const;
+
+  // Makes the node's folder on disk (its parents must be there) and hands out its path.
+  // 1, nothing made, unless the project type is PROJECT_TYPE_SIMULATION and the folder path is
+  // set; 10102, recorded, when the folder cannot be made.
+  unsigned long createFolder(std::string& folderPath);
+
+private:
+  std::string name_;
+  NODE_TYPE type_ = NODE_TYPE_UNSET;
+  CTervixNode* parent_ = nullptr;
+  std::string path_;
+  std::string folderPath_;
+  FRONTEND_ID frontEndId_ = FRONTEND_ID_UNSET;
+  PROJECT_TYPE projectType_ = PROJECT_TYPE_UNSET;
+};
+
+#endif

@@ -1,0 +1,103 @@
+#include <initializer_list>
+
+#include "CTervixProfile.h"
+#include "TervixFiles.h"
+#include "foundation/LastError.h"
+#include "foundation/PathNames.h"
+#include "foundation/Text.h"
+#include "foundation/platform/Platform.h"
+#include "model/NodeFields.h"
+#include "model/ProfileNames.h"
+#include "model/ProjectLink.h"
+#include "model/SimFileRewrite.h"
+
+namespace platform = tervix::platform;
+
+namespace {
+
+unsigned long copySimFile(std::string& oldPath, std::string& newPath) {
+  if (!platform::isReadableFile(oldPath) || platform::isReadableFile(newPath))
+    return 0;
+  auto folder = tervix::folderOf(newPath);
+  const bool hasFolder = !folder || createPath(*folder) == 0;
+  if (hasFolder && cpFile(oldPath, newPath) == 0)
+    return 0;
+  return tervix::raiseError(tervix::kCannotCopyFile, oldPath, newPath);
+}
+
+// In a copied folder a file under its new name is the newer one; the one under the old name was
+// only carried along.
+void takeNewName(std::string oldFile, std::string newFile) {
+  if (!platform::isReadableFile(oldFile))
+    return;
+  if (platform::isReadableFile(newFile))
+    rmFile(oldFile);
+  else
+    mvFile(oldFile, newFile);
+}
+
+std::string withoutEnding(const std::string& path) {
+  return std::string(tervix::withoutLast(path, tervix::kEndingLength));
+}
+
+} // namespace
+
+unsigned long CTervixProfile::syncUpProfileFiles(std::string& oldPath, std::string& newPath) {
+  datFilePath_.clear();
+  outFilePath_.clear();
+  const CTervixNode* schematic = tervix::parentOf(*this);
+  if (schematic == nullptr || tervix::projectAbove(*schematic) == nullptr)
+    return 1;
+  const PROJECT_TYPE type = tervix::projectTypeOf(*this);
+  if (type != PROJECT_TYPE_SIMULATION && type != PROJECT_TYPE_OTHER)
+    return 1;
+  if (const unsigned long status = copySimFile(oldPath, newPath); status != 0)
+    return status;
+  return type == PROJECT_TYPE_SIMULATION ? syncUpFolder(oldPath, newPath)
+                                         : syncUpFiles(oldPath, newPath);
+}
+
+// A profile with a folder of its own: the folder goes along, and its files take the new name.
+unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& newPath) {
+  std::string oldFolder = withoutEnding(oldPath);
+  std::string newFolder = withoutEnding(newPath);
+  unsigned long result = 0;
+  if (!platform::isSameEntry(oldFolder, newFolder) && cpDir(oldFolder, newFolder) != 0)
+    result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
+  const std::string oldStem = tervix::stemOf(oldPath);
+  const std::string newStem = tervix::stemOf(newPath);
+  if (tervix::equalsIgnoringCase(oldStem, newStem))
+    return result;
+  takeNewName(tervix::includeListIn(newFolder, oldStem), tervix::includeListIn(newFolder, newStem));
+  for (const char* suffix : tervix::kProfileFileSuffixes)
+    takeNewName(newFolder + "/" + tervix::fileInFolder(oldStem, suffix),
+                newFolder + "/" + tervix::fileInFolder(newStem, suffix));
+  return result;
+}
+
+// A profile whose files lie beside its ".sim" file: they are copied one by one, and the old ones
+// stay (deliberate: they share their folder with everything else).
+unsigned long CTervixProfile::syncUpFiles(std::string& oldPath, std::string& newPath) {
+  unsigned long result = platform::isReadableFile(newPath) ? rewriteSimFile(newPath) : 0;
+  for (const char* suffix : tervix::kProfileFileSuffixes) {
+    std::string oldFile = tervix::fileBesideSim(withoutEnding(oldPath), suffix);
+    std::string newFile = tervix::fileBesideSim(withoutEnding(newPath), suffix);
+    if (!platform::isReadableFile(oldFile) || platform::isReadableFile(newFile))
+      continue;
+    if (cpFile(oldFile, newFile) != 0)
+      result = tervix::raiseError(tervix::kCannotCopyFile, oldFile, newFile);
+  }
+  return result;
+}
+
+unsigned long CTervixProfile::rewriteSimFile(std::string& simPath) {
+  std::string design;
+  std::string schematic;
+  if (const unsigned long status = namesForFiles(design, schematic); status != 0)
+    return status;
+  const CTervixProject* project = tervix::projectAbove(*tervix::parentOf(*this));
+  const std::string netlist =
+      tervix::longNameOf(design, schematic, tervix::nameOf(*this)) + ".sim.cir";
+  return tervix::rewriteSimKeys(
+      simPath, {{"NetlistFile", netlist}, {"ProjectFile", tervix::nameOf(*project) + ".tvp"}});
+}

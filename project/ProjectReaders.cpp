@@ -1,0 +1,162 @@
+#include "project/ProjectReaders.h"
+
+#include <algorithm>
+#include <array>
+
+#include "foundation/LastError.h"
+#include "foundation/PathNames.h"
+#include "foundation/Text.h"
+#include "foundation/platform/Platform.h"
+#include "model/ProfileNames.h"
+#include "project/ClosedReaders.h"
+
+namespace tervix {
+namespace {
+
+constexpr const char* kDesignSection = "Design Resources";
+constexpr const char* kOutputFileItem = "TERVIX_Output_File";
+constexpr const char* kResourceSection = "Tervix Resources";
+constexpr const char* kDesignEnding = ".dsn";
+constexpr const char* kProfilesFolder = "/profiles";
+
+struct ResourceItem {
+  const char* name;
+  std::vector<std::string>& files;
+};
+
+// A file that the project file lists. "ab/x" does not count as relative; a front end may mean it
+// so all the same, and gets it so where it leads to a file.
+std::string listedFile(const std::string& projectFolder, const std::string& listed) {
+  std::string file = resolvedAgainst(projectFolder, listed).value_or(listed);
+  const bool isUnchanged = file == toForwardSlashes(listed);
+  const bool hasDrive = file.size() > 1 && file[1] == ':';
+  const bool hasRoot = !file.empty() && file.front() == '/';
+  if (isUnchanged && !hasDrive && !hasRoot && !platform::isReadableFile(file))
+    return projectFolder + "/" + file;
+  return file;
+}
+
+// Appends the ".sim" files of a folder; false when it cannot be listed.
+bool appendSimFiles(std::vector<std::string>& files, const std::string& folder) {
+  const auto entries = platform::listFolder(folder);
+  if (!entries)
+    return false;
+  for (const platform::FolderEntry& entry : *entries) {
+    if (!isSimFileName(entry.name))
+      continue;
+    std::string file = folder + "/" + entry.name;
+    if (platform::isReadableFile(file))
+      files.push_back(std::move(file));
+  }
+  return true;
+}
+
+unsigned long readRegisteredProfiles(std::vector<std::string>& profileFiles,
+                                     std::string& activeProfile, const std::string& projectFile,
+                                     const std::string& projectFolder) {
+  std::list<std::string> registered;
+  if (!closed::listProfiles(projectFile, registered, activeProfile))
+    return raiseError(kInvalidFileSyntax, projectFile);
+  for (const std::string& listed : registered) {
+    std::string file = listedFile(projectFolder, listed);
+    if (platform::isReadableFile(file))
+      profileFiles.push_back(std::move(file));
+  }
+  return 0;
+}
+
+} // namespace
+
+bool isSimFileName(const std::string& fileName) {
+  return fileName.size() > kEndingLength && endsWithIgnoringCase(fileName, kSimEnding);
+}
+
+unsigned long readDesignFromProject(DesignPlace& design, const std::string& projectFile,
+                                    const std::string& projectFolder, FRONTEND_ID frontEnd) {
+  if (frontEnd == FRONTEND_ID_PROJECT_FILE) {
+    const auto above = folderOf(projectFolder);
+    if (!above || !folderOf(*above))
+      return 1;
+    const std::string name = fileNameOf(*above);
+    design = {projectFolder + "/" + name, projectFolder, name};
+    return 0;
+  }
+  if (frontEnd != FRONTEND_ID_DESIGN_FILE)
+    return 1;
+  std::list<std::string> files;
+  if (!closed::listFiles(projectFile, kDesignSection, files))
+    return raiseError(kInvalidFileSyntax, projectFile);
+  const auto listed = std::find_if(files.begin(), files.end(), [](const std::string& file) {
+    return endsWithIgnoringCase(file, kDesignEnding);
+  });
+  if (listed == files.end())
+    return raiseError(kNoValidDesign, projectFile);
+  const std::string file = listedFile(projectFolder, *listed);
+  if (!platform::isReadableFile(file))
+    return raiseError(kNoValidDesign, projectFile);
+  design = {file, folderOf(file).value_or(std::string()), stemOf(file)};
+  return 0;
+}
+
+unsigned long readDesignSchematics(std::vector<std::string>& schematics, std::string& rootSchematic,
+                                   const std::string& designPath, const std::string& designName,
+                                   FRONTEND_ID frontEnd) {
+  schematics.clear();
+  if (frontEnd == FRONTEND_ID_PROJECT_FILE)
+    schematics.push_back(designName);
+  if (frontEnd != FRONTEND_ID_DESIGN_FILE)
+    return 0;
+  std::list<std::string> names;
+  if (!closed::readDesign(designPath, rootSchematic, names))
+    return raiseError(kCannotReadDesign, designPath);
+  schematics.assign(names.begin(), names.end());
+  return 0;
+}
+
+unsigned long readProfileFiles(std::vector<std::string>& profileFiles, std::string& activeProfile,
+                               const std::string& projectFile, const std::string& projectFolder,
+                               const std::vector<std::string>& schematicFolders,
+                               FRONTEND_ID frontEnd, PROJECT_TYPE projectType) {
+  profileFiles.clear();
+  if (frontEnd == FRONTEND_ID_DESIGN_FILE)
+    return readRegisteredProfiles(profileFiles, activeProfile, projectFile, projectFolder);
+  if (frontEnd != FRONTEND_ID_PROJECT_FILE)
+    return 1;
+  if (projectType == PROJECT_TYPE_OTHER) {
+    // A folder that is missing or cannot be opened has no profiles.
+    for (const std::string& folder : schematicFolders)
+      appendSimFiles(profileFiles, folder);
+    return 0;
+  }
+  if (projectType != PROJECT_TYPE_SIMULATION)
+    return 1;
+  const std::string folder = projectFolder + kProfilesFolder;
+  if (!platform::exists(folder))
+    return raiseError(kNoProfilesDirectory);
+  return appendSimFiles(profileFiles, folder) ? 0 : raiseError(kCannotOpenDirectory, folder);
+}
+
+unsigned long readOutputFileFromProject(std::string& outputFile, const std::string& projectFile,
+                                        FRONTEND_ID frontEnd) {
+  if (frontEnd != FRONTEND_ID_DESIGN_FILE)
+    return 0;
+  if (!closed::readItem(projectFile, kDesignSection, kOutputFileItem, outputFile))
+    return raiseError(kInvalidFileSyntax, projectFile);
+  return 0;
+}
+
+unsigned long readProjectResources(DesignResources& resources, const std::string& projectFile) {
+  resources = {};
+  const std::array<ResourceItem, 3> items = {{{"Model Libraries", resources.libraries},
+                                              {"Stimulus Files", resources.stimuli},
+                                              {"Include Files", resources.includes}}};
+  for (const ResourceItem& item : items) {
+    std::list<std::string> listed;
+    if (!closed::listFiles(projectFile, kResourceSection, item.name, listed))
+      return raiseError(kInvalidFileSyntax, projectFile);
+    item.files.assign(listed.begin(), listed.end());
+  }
+  return 0;
+}
+
+} // namespace tervix
