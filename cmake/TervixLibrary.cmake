@@ -7,7 +7,7 @@ target_compile_features(TervixExplorer INTERFACE cxx_std_17)
 target_include_directories(TervixExplorer INTERFACE
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
   $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TervixExplorer>)
-target_link_libraries(TervixExplorer PRIVATE tvx_wobj ${CMAKE_DL_LIBS})
+target_link_libraries(TervixExplorer PRIVATE ${TERVIX_TVX_WOBJ} ${CMAKE_DL_LIBS})
 set_target_properties(TervixExplorer PROPERTIES
   LINKER_LANGUAGE CXX
   VERSION ${PROJECT_VERSION}

@@ -2,6 +2,7 @@
 #include "foundation/LastError.h"
 #include "foundation/PathNames.h"
 #include "foundation/Text.h"
+#include "model/FileSuffixes.h"
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"

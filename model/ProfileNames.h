@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -14,16 +13,6 @@ constexpr const char* kSimEnding = ".sim";
 constexpr const char* kMarkerEnding = ".mrk";
 constexpr std::size_t kEndingLength = 4; // of either
 constexpr const char* kFilesFolderEnding = "-TervixFiles";
-
-// The suffixes of PROFILEFILE_TYPE, in its order.
-constexpr std::array<const char*, 18> kProfileFileSuffixes = {
-    "csd",   "dat",     "opt.dat", "mc.dat",   "sens.dat", "opt.csd", "mc.csd", "sens.csd", "out",
-    "out.1", "opt.out", "mc.out",  "sens.out", "prb",      "mrk",     "1op",    "cir",      "mif"};
-
-// The suffixes of SCHEMATICFILE_TYPE, in its order.
-constexpr std::array<const char*, 11> kSchematicFileSuffixes = {
-    "net",     "als",       "par",      "opt",       "aap",        "prp",
-    "opt.log", "monte.log", "sens.log", "smoke.log", "default.mrk"};
 
 // DESIGN-SCHEMATIC-PROFILE, the name of a profile among the files of its design.
 inline std::string longNameOf(const std::string& design, const std::string& schematic,

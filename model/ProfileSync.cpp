@@ -6,6 +6,7 @@
 #include "foundation/PathNames.h"
 #include "foundation/Text.h"
 #include "foundation/platform/Platform.h"
+#include "model/FileSuffixes.h"
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"

@@ -3,6 +3,7 @@
 #include "CTervixSchematic.h"
 #include "foundation/LastError.h"
 #include "foundation/Text.h"
+#include "model/FileSuffixes.h"
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"

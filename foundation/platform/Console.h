@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tervix::platform {
+
+// Whether standard output is a terminal that shows colours. Also prepares a console that has to
+// be told.
+bool standardOutputTakesColour();
+
+} // namespace tervix::platform

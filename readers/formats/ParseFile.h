@@ -1,0 +1,17 @@
+#ifndef TERVIX_FORMATS_PARSE_FILE_H
+#define TERVIX_FORMATS_PARSE_FILE_H
+
+#include "Toml.h"
+
+#include <string>
+
+namespace tervix::formats {
+
+// What a TOML file holds. Each node's source() is its place in the file, in lines and characters
+// from 1, a byte-order mark not counted. Throws a Mistake for a file that cannot be read and for
+// text that is not TOML.
+toml::table parseFile(const std::string& file);
+
+} // namespace tervix::formats
+
+#endif

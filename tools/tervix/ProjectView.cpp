@@ -1,0 +1,111 @@
+#include "tools/tervix/ProjectView.h"
+
+#include <array>
+#include <filesystem>
+
+#include "model/FileSuffixes.h"
+
+namespace tervix::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<VARIANTFILE_TYPE, 3> kVariantTypes = {
+    VARIANTFILE_TYPE_LIBRARY, VARIANTFILE_TYPE_STIMULUS, VARIANTFILE_TYPE_INCLUDE};
+constexpr std::array<const char*, 3> kVariantNames = {"library", "stimulus", "include"};
+
+// Reads one text of a node through its getter; empty when it is not set.
+template <class Object, class Getter> std::string textOf(Object& object, Getter getter) {
+  std::string text;
+  (object.*getter)(text);
+  return text;
+}
+
+bool isFile(const std::string& path) {
+  std::string copy = path;
+  bool exists = false;
+  filePathExists(copy, exists);
+  return exists;
+}
+
+// A file that a project or profile names, with its place: relative names start in folder.
+FileView namedFile(const std::string& kind, const std::string& path, const std::string& folder) {
+  std::string forward = path;
+  for (char& c : forward)
+    c = c == '\\' ? '/' : c;
+  const bool hasDrive = forward.size() > 1 && forward[1] == ':';
+  const fs::path place = hasDrive ? fs::path(forward) : fs::path(folder) / forward;
+  const std::string full = place.lexically_normal().generic_string();
+  return {kind, path, full, isFile(full)};
+}
+
+ProfileView viewOf(CTervixProfile& profile) {
+  ProfileView view{};
+  view.name = textOf(profile, &CTervixProfile::getName);
+  view.displayName = textOf(profile, &CTervixProfile::getDisplayName);
+  if (view.displayName.empty())
+    view.displayName = view.name;
+  profile.isActive(view.active);
+  view.folder = textOf(profile, &CTervixProfile::getFolderPath);
+  view.markerKey = textOf(profile, &CTervixProfile::getMarkerKey);
+  view.sim = namedFile("sim", textOf(profile, &CTervixProfile::getPath), view.folder);
+  for (const VARIANTFILE_TYPE type : kVariantTypes) {
+    std::string file;
+    profile.getTopProfileLevelFile(file, type);
+    for (; !file.empty(); profile.getNextProfileLevelFile(file, type))
+      view.variants.push_back(namedFile(kVariantNames.at(type), file, view.folder));
+  }
+  for (std::size_t type = 0; type < kProfileFileSuffixes.size(); ++type) {
+    std::string file;
+    if (profile.getProfileBasedFile(file, static_cast<PROFILEFILE_TYPE>(type)) == 0)
+      view.files.push_back({kProfileFileSuffixes.at(type), file, file, isFile(file)});
+  }
+  return view;
+}
+
+SchematicView viewOf(CTervixSchematic& schematic) {
+  SchematicView view{};
+  view.name = textOf(schematic, &CTervixSchematic::getName);
+  schematic.isRoot(view.root);
+  view.folder = textOf(schematic, &CTervixSchematic::getFolderPath);
+  for (std::size_t type = 0; type < kSchematicFileSuffixes.size(); ++type) {
+    std::string file;
+    if (schematic.getSchematicBasedFile(file, static_cast<SCHEMATICFILE_TYPE>(type)) == 0)
+      view.files.push_back({kSchematicFileSuffixes.at(type), file, file, isFile(file)});
+  }
+  CTervixNode* profile = nullptr;
+  schematic.getTopProfile(profile);
+  for (; profile != nullptr; schematic.getNextProfile(profile))
+    view.profiles.push_back(viewOf(static_cast<CTervixProfile&>(*profile)));
+  return view;
+}
+
+} // namespace
+
+ProjectView viewOf(CTervixProject& project) {
+  ProjectView view{};
+  view.name = textOf(project, &CTervixProject::getName);
+  view.path = textOf(project, &CTervixProject::getPath);
+  view.folder = textOf(project, &CTervixProject::getFolderPath);
+  project.getProjectType(view.type);
+  project.getFrontEndId(view.frontEnd);
+  view.designName = textOf(project, &CTervixProject::getDesignName);
+  view.hasDesign = !view.designName.empty();
+  view.design = namedFile("design", textOf(project, &CTervixProject::getDesignPath), view.folder);
+  view.outputFile = textOf(project, &CTervixProject::getTervixOutputFile);
+  project.getRootSchematic(view.rootSchematic);
+  project.getActiveProfile(view.activeProfile);
+  for (const VARIANTFILE_TYPE type : kVariantTypes) {
+    std::string file;
+    project.getTopDesignLevelFile(file, type);
+    for (; !file.empty(); project.getNextDesignLevelFile(file, type))
+      view.variants.push_back(namedFile(kVariantNames.at(type), file, view.folder));
+  }
+  CTervixNode* schematic = nullptr;
+  project.getTopSchematic(schematic);
+  for (; schematic != nullptr; project.getNextSchematic(schematic))
+    view.schematics.push_back(viewOf(static_cast<CTervixSchematic&>(*schematic)));
+  return view;
+}
+
+} // namespace tervix::tool

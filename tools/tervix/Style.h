@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace tervix::tool {
+
+// How text is set off on a terminal; plain text anywhere else.
+class Style {
+public:
+  explicit Style(bool colours) : colours_(colours) {}
+
+  std::string heading(const std::string& text) const { return marked("1", text); }
+  std::string accent(const std::string& text) const { return marked("32", text); }
+  std::string faint(const std::string& text) const { return marked("2", text); }
+  std::string problem(const std::string& text) const { return marked("31", text); }
+
+private:
+  std::string marked(const char* code, const std::string& text) const;
+
+  bool colours_;
+};
+
+// text with its control characters spelt out, so that a strange file name cannot drive the
+// terminal.
+std::string printable(const std::string& text);
+
+} // namespace tervix::tool
