@@ -117,29 +117,27 @@ unsigned long getFilePathFromFileNamePath(std::string& path, std::string& folder
 }
 
 unsigned long getExtensionFromFileName(std::string& fileName, std::string& extension) {
-  const std::string name = fileName;
-  extension.clear();
-  if (name == "." || name == "..")
-    return 0;
-  const std::size_t dot = name.find('.');
-  if (dot == std::string::npos)
-    return 1;
-  const std::string_view rest = std::string_view(name).substr(dot + 1);
-  const std::string_view marker = defaultMarkerOf(name);
-  extension = !marker.empty() && tervix::equalsIgnoringCase(rest, kMarkerExtension) ? marker : rest;
+  const bool isFolderItself = fileName == "." || fileName == "..";
+  const std::size_t dot = fileName.find('.');
+  if (isFolderItself || dot == std::string::npos) {
+    extension.clear();
+    return isFolderItself ? 0 : 1;
+  }
+  const std::string_view rest = std::string_view(fileName).substr(dot + 1);
+  const std::string_view marker = defaultMarkerOf(fileName);
+  const bool isMarker = !marker.empty() && tervix::equalsIgnoringCase(rest, kMarkerExtension);
+  extension = std::string(isMarker ? marker : rest);
   return 0;
 }
 
 unsigned long removeExtensionFromFileName(std::string& fileName, std::string& stem) {
-  const std::string name = fileName;
-  const std::size_t dot = name.find('.');
-  stem = name.substr(0, dot);
-  if (dot == std::string::npos)
-    return 1;
+  const std::size_t dot = fileName.find('.');
   // Deliberate: unlike the extension, the stem may hold dots before the marker's dash.
-  if (const std::string_view marker = defaultMarkerOf(name); !marker.empty())
-    stem = tervix::withoutLast(name, marker.size() + 1);
-  return 0;
+  const std::string_view marker = defaultMarkerOf(fileName);
+  const bool isMarker = dot != std::string::npos && !marker.empty();
+  stem = isMarker ? std::string(tervix::withoutLast(fileName, marker.size() + 1))
+                  : fileName.substr(0, dot);
+  return dot == std::string::npos ? 1 : 0;
 }
 
 namespace tervix {

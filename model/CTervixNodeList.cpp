@@ -67,8 +67,8 @@ CTervixNodeList::Cells::iterator CTervixNodeList::cellWithPath(const std::string
 
 // Whether node is to be inserted; if not, status tells why.
 bool CTervixNodeList::accepts(CTervixNode* node, unsigned long& status) {
-  const std::string name = node != nullptr ? tervix::nameOf(*node) : std::string();
-  if (name.empty()) {
+  std::string name;
+  if (node == nullptr || node->getName(name) != 0) {
     status = tervix::raiseError(tervix::kNodeNotInitialized);
     return false;
   }

@@ -32,8 +32,8 @@ inline std::string fileInFolder(const std::string& stem, std::string_view suffix
   return stem + "." + std::string(suffix);
 }
 
-inline std::string includeListIn(const std::string& folder, const std::string& profile) {
-  return folder + "/" + profile + "_profile.inc";
+inline std::string includeListIn(const std::string& folder, const std::string& stem) {
+  return folder + "/" + stem + "_profile.inc";
 }
 
 // The folder of a project's files, for a project named or based on stem.

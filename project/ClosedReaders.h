@@ -3,12 +3,10 @@
 #include <list>
 #include <string>
 
-namespace tervix {
-
 // The calls into the suite's own reader libraries, of which only the interface is known. False
 // when the library is missing, fails or throws.
 
-namespace closed {
+namespace tervix::closed {
 
 bool listFiles(const std::string& projectFile, const char* section, std::list<std::string>& files);
 bool listFiles(const std::string& projectFile, const char* section, const std::string& item,
@@ -20,5 +18,4 @@ bool readItem(const std::string& projectFile, const char* section, const char* i
 bool readDesign(const std::string& designPath, std::string& rootSchematic,
                 std::list<std::string>& schematics);
 
-} // namespace closed
-} // namespace tervix
+} // namespace tervix::closed

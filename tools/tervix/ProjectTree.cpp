@@ -43,7 +43,7 @@ private:
   std::string design() const {
     if (!project_.hasDesign)
       return style_.problem("none");
-    const std::string name = style_.heading(printable(project_.designName));
+    std::string name = style_.heading(printable(project_.designName));
     if (project_.frontEnd != FRONTEND_ID_DESIGN_FILE)
       return name;
     return name + "  " + shown(project_.design.place) + missingMark(!project_.design.exists);
