@@ -353,6 +353,7 @@ private:
   TERVIX_LOCAL unsigned long addProfileTo(CTervixNode*& profile, CTervixSchematic& schematic,
                                           std::string& profileName);
   TERVIX_LOCAL CTervixNode* renamedProfileOf(const std::string& simPath);
+  TERVIX_LOCAL unsigned long moveToMarkerKey(CTervixProfile& profile) const;
   TERVIX_LOCAL unsigned long readDesign(std::vector<std::string>& schematicFolders);
   TERVIX_LOCAL unsigned long readProfiles(const std::vector<std::string>& schematicFolders);
   TERVIX_LOCAL unsigned long readTree();
