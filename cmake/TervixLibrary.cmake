@@ -12,8 +12,7 @@ set_target_properties(TervixExplorer PROPERTIES
   LINKER_LANGUAGE CXX
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
-  BUILD_RPATH_USE_ORIGIN ON
-  BUILD_RPATH "$ORIGIN"
+  BUILD_WITH_INSTALL_RPATH ON # else it is padded with empty entries: the current folder
   INSTALL_RPATH "$ORIGIN")
 if(NOT WIN32)
   # Templates of the standard library that the compiler instantiated here are nobody's business.

@@ -11,10 +11,13 @@ struct _dirdesc { // NOLINT(bugprone-reserved-identifier,readability-identifier-
 
 unsigned long openDir(std::string& path, _dirdesc*& handle) {
   handle = nullptr;
-  auto entries = tervix::platform::listFolder(path);
-  if (!entries)
+  try {
+    auto entries = tervix::platform::listFolder(path);
+    if (entries)
+      handle = new _dirdesc{std::move(*entries)};
+  } catch (const std::bad_alloc&) {
     return 1;
-  handle = new (std::nothrow) _dirdesc{std::move(*entries)};
+  }
   return handle != nullptr ? 0 : 1;
 }
 

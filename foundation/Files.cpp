@@ -9,8 +9,10 @@ namespace {
 bool moveToOtherDevice(const std::string& oldPath, const std::string& newPath) {
   const std::string arriving = platform::unusedNameBeside(newPath);
   if (platform::copyFile(oldPath, arriving) &&
-      platform::moveEntry(arriving, newPath) == platform::MoveResult::kMoved)
-    return platform::removeFile(oldPath);
+      platform::moveEntry(arriving, newPath) == platform::MoveResult::kMoved) {
+    platform::removeFile(oldPath);
+    return true;
+  }
   platform::removeFile(arriving);
   return false;
 }

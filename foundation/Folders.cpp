@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "TervixFiles.h"
 #include "foundation/LastError.h"
 #include "foundation/Text.h"
@@ -13,35 +17,57 @@ bool isThereOrMade(std::string folder) {
   return platform::exists(folder) || createDir(folder) == 0;
 }
 
-unsigned long copyTree(const std::string& source, const std::string& target);
+// The source folders whose copies are under way, from the outermost inwards.
+using OpenFolders = std::vector<std::string>;
+
+unsigned long copyTree(const std::string& source, const std::string& target, OpenFolders& open);
+
+// A link may lead anywhere: to where the copy goes, or back to a folder that is being copied.
+unsigned long copyLinked(const std::string& source, const std::string& target, OpenFolders& open) {
+  if (!platform::exists(source))
+    return 0;
+  const bool leadsBack = std::any_of(open.begin(), open.end(), [&](const std::string& folder) {
+    return platform::isSameEntry(folder, source);
+  });
+  return leadsBack || platform::liesIn(target, source) ? 1 : copyTree(source, target, open);
+}
+
+// Half a copy would pass for a whole one the next time.
+unsigned long copyWholeFile(std::string& source, std::string& target) {
+  const bool wasThere = platform::isTaken(target);
+  const unsigned long status = cpFile(source, target);
+  if (status != 0 && !wasThere)
+    rmFile(target);
+  return status;
+}
 
 // Copies one entry; see cpDir for what decides between file and folder.
 unsigned long copyEntry(const std::string& source, const std::string& target,
-                        platform::FolderEntry& entry) {
+                        platform::FolderEntry& entry, OpenFolders& open) {
   std::string from = source + "/" + entry.name;
   std::string to = target + "/" + entry.name;
   std::string extension;
   if (getExtensionFromFileName(entry.name, extension) == 0)
-    return cpFile(from, to);
-  if (entry.kind == platform::EntryKind::kFolder)
-    return copyTree(from, to);
-  // A link, say: it may lead anywhere, back to where the copy goes as well.
-  return platform::exists(from) ? cpDir(from, to) : 0;
+    return copyWholeFile(from, to);
+  return entry.kind == platform::EntryKind::kFolder ? copyTree(from, to, open)
+                                                    : copyLinked(from, to, open);
 }
 
-unsigned long copyTree(const std::string& source, const std::string& target) {
+unsigned long copyTree(const std::string& source, const std::string& target, OpenFolders& open) {
   std::string folder = target;
   if (const unsigned long status = createPath(folder); status != 0)
     return status;
   auto entries = platform::listFolder(source);
   if (!entries)
     return 1;
+  open.push_back(source);
   for (platform::FolderEntry& entry : *entries) {
     if (entry.name == "." || entry.name == "..")
       continue;
-    if (const unsigned long status = copyEntry(source, target, entry); status != 0)
+    if (const unsigned long status = copyEntry(source, target, entry, open); status != 0)
       return status;
   }
+  open.pop_back();
   return 0;
 }
 
@@ -83,5 +109,6 @@ unsigned long createPath(std::string& path) {
 }
 
 unsigned long cpDir(std::string& source, std::string& target) {
-  return platform::liesIn(target, source) ? 1 : copyTree(source, target);
+  OpenFolders open;
+  return platform::liesIn(target, source) ? 1 : copyTree(source, target, open);
 }

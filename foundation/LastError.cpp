@@ -61,6 +61,16 @@ unsigned long getLastErrorString(std::string& text) {
   return 0;
 }
 
+LastErrorKept::LastErrorKept() {
+  getLastErrorCode(code_);
+  getLastErrorString(text_);
+}
+
+LastErrorKept::~LastErrorKept() {
+  setLastErrorCode(code_);
+  setLastErrorString(text_);
+}
+
 unsigned long raiseError(ErrorCode code) {
   return raise(code, {});
 }

@@ -20,4 +20,17 @@ unsigned long raiseError(ErrorCode code);
 unsigned long raiseError(ErrorCode code, std::string_view name);
 unsigned long raiseError(ErrorCode code, std::string_view source, std::string_view target);
 
+// Puts the last error back at the end of a block: for an attempt whose failure is no news.
+class LastErrorKept {
+public:
+  LastErrorKept();
+  ~LastErrorKept();
+  LastErrorKept(const LastErrorKept&) = delete;
+  LastErrorKept& operator=(const LastErrorKept&) = delete;
+
+private:
+  unsigned long code_ = 0;
+  std::string text_;
+};
+
 } // namespace tervix

@@ -123,8 +123,8 @@ public:
   // stimuli, each path with backslashes. Empty lists remove the file. A project type other than
   // PROJECT_TYPE_SIMULATION touches no disk.
   // 1: no path. 10106, 10107, recorded: the file could not be written or removed; it is then as
-  // it was, and "variants updated" stays true. 10105, recorded: the file exists but could not be
-  // read when it was loaded, so saving would lose what it holds; it is left as it is until it has
+  // it was, and "variants updated" stays true. 10106 also when the file is there but could not be
+  // read when it was loaded: saving would lose what it holds, so it is left as it is until it has
   // been read or deleteAllProfileLevelFiles says that it may go.
   unsigned long writeProfileLevelVariants();
 
@@ -153,11 +153,14 @@ public:
 
   // Carries the profile's files from the place that belongs to oldPath to the one of newPath,
   // both full paths of its ".sim" file. The node must have its new name already. Nothing that
-  // belongs to oldPath is removed, and nothing at newPath replaced:
+  // belongs to oldPath is removed:
   // - the ".sim" file, unless newPath is a file already;
-  // - PROJECT_TYPE_SIMULATION: the folder beside it, named like it without ".sim"; in the copy
-  //   the include list and the run's files take the new name, unless only case changed;
-  // - PROJECT_TYPE_OTHER: the run's files beside it; and in newPath the lines "NetlistFile" and
+  // - PROJECT_TYPE_SIMULATION: the folder beside it, named like it without ".sim"; a file that
+  //   the new folder holds under the same name is overwritten. In the new folder the include list
+  //   and the run's files take the new name, unless only case changed; a file that is there under
+  //   its new name already stays, and the copy under the old name goes;
+  // - PROJECT_TYPE_OTHER: the run's files beside it, unless they are there; and in newPath the
+  // lines "NetlistFile" and
   //   "ProjectFile" are rewritten. A "newPath.bak" made for that is removed again; one that was
   //   there before is left alone.
   // The stored data and output paths are dropped, to be read afresh.
@@ -171,7 +174,8 @@ private:
   TERVIX_LOCAL unsigned long findProfileLevelFile(bool& found, std::string*& entry,
                                                   std::string& file, VARIANTFILE_TYPE type);
   TERVIX_LOCAL unsigned long getFilePathFromProfile(std::string& path, std::string& suffix);
-  TERVIX_LOCAL std::vector<std::string>* listOf(VARIANTFILE_TYPE type);
+  TERVIX_LOCAL const std::vector<std::string>& listOf(VARIANTFILE_TYPE type) const;
+  TERVIX_LOCAL std::vector<std::string>& listOf(VARIANTFILE_TYPE type);
   TERVIX_LOCAL bool hasVariants() const;
   TERVIX_LOCAL unsigned long resolveRunFile(std::string& path, std::string& field) const;
   TERVIX_LOCAL unsigned long loadRunFilePaths();
@@ -191,8 +195,8 @@ private:
   std::string datFilePath_;
   std::string outFilePath_;
   std::string markerKey_;
-  // The include list exists but could not be read: a save would lose what it holds.
-  bool variantsUnread_ = false;
+  // An include list that is there but could not be read: a save would lose what it holds.
+  std::string unreadVariantFile_;
 };
 
 #endif

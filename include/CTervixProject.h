@@ -41,6 +41,8 @@ enum RENAME_TYPE : int {
 class TERVIX_API CTervixProject : public CTervixNode {
 public:
   CTervixProject();
+  // The copy shares the schematics of other, whose parent other stays: use the copy no longer than
+  // other lives.
   CTervixProject(const CTervixProject& other);
   // frontEndId 1 or 2: path is a project file; it must hold ".tvp", in whatever case. extra, when
   // not null or empty, is the project's name, otherwise the file's name without extension is;
@@ -112,7 +114,7 @@ public:
   // builds the tree. A second call adds to the tree; nothing is cleared first.
   // 0 also when the project was opened from a profile or analysis file without a project file.
   // 1: nothing recognised was opened, or an unknown front end or project type. Otherwise the code
-  // of the reader that failed: 10103, 10109, 10110, 10122, 10124. What was read before stays.
+  // of the reader that failed: 10103, 10109, 10110, 10122. What was read before stays.
   // A project without a design (10124) still gets its output file and design-level files; when
   // these can be read the status is 0, and the last error tells of the missing design.
   unsigned long initialize();
@@ -146,11 +148,12 @@ public:
   // 1: no such schematic, or no such profile in it.
   unsigned long findProfile(CTervixNode*& profile, std::string& schematicName,
                             std::string& profileName);
-  // Finds the profile of a ".sim" file: by a recorded profile rename, by the names that the file
-  // holds, by the file's path, then by the paths that the names give beside the file. The two
-  // names become those of the profile found, or those read from the file; a name that could not
-  // be had stays as it was. profileFilePath is rewritten only on a hit by path.
-  // On a miss the reader's code (10104, 10105, 10121), otherwise 1.
+  // Finds the profile of a ".sim" file: by a recorded profile rename (no file is read then, and
+  // profileName becomes the former name), by the names that the file holds, by the file's path,
+  // then by the paths that the names give beside the file. The two names become those of the
+  // profile found, or those read from the file; a name that could not be had stays as it was.
+  // profileFilePath is rewritten only on a hit by path. On a miss the reader's code (10104, 10105,
+  // 10121), otherwise 1.
   unsigned long findProfile(CTervixNode*& profile, std::string& schematicName,
                             std::string& profileName, std::string& profileFilePath);
   // Hand out the profile, made when there is none, with its schematic if need be; added tells
@@ -236,16 +239,17 @@ public:
   // name. 1: unknown front end.
   unsigned long getTopProfMarkerNameForSch(std::string& name, std::string& schematicName);
   unsigned long getNextProfMarkerNameForSch(std::string& name, std::string& schematicName);
-  // The path of a profile's ".sim" file, following a recorded rename.
+  // The path of a profile's ".sim" file, following a recorded rename. 1: none.
   unsigned long getProfilePathForSchProf(std::string& path, std::string& schematicName,
                                          std::string& profileName);
   // The same, the schematic given by its ".aap" file, which is rewritten as above.
   unsigned long getProfilePathForAapProf(std::string& path, std::string& aapPath,
                                          std::string& profileName);
-  // The name of the schematic that holds the profile; profile is a name or a ".sim" path.
+  // The name of the schematic that holds the profile; profile is a name or a ".sim" path. 1: none.
   unsigned long getParentNameForProfile(std::string& name, std::string& profile);
   // See CTervixProfile::getProfileBasedFile; profile is a name or a ".sim" path. For a profile
-  // that is not in the tree the path gives its place.
+  // that is not in the tree the path gives its place, and the recorded new name of a profile that
+  // of the former one under the new name. 1: anything else. 10113 for a type that is none.
   unsigned long getProfileBasedFile(std::string& path, std::string& profile, PROFILEFILE_TYPE type);
   unsigned long getProfileBasedFile(std::string& path, std::string& profile, std::string& suffix);
 
@@ -307,24 +311,27 @@ public:
   // ---- Operations on the design ----
 
   // The folder of the profile of a ".sim" file, under its new name while a rename is recorded.
-  // profileFilePath is cut before ".bak". The status of findProfile.
+  // The file name in profileFilePath is cut before ".bak". The status of findProfile.
   unsigned long getProfileDir(std::string& profileDir, std::string& profileFilePath);
   // Gives the design its new name and the folder of designFilePath, which is rewritten with
   // forward slashes; profiles take their new marker keys. With PROJECT_TYPE_OTHER the schematics
   // move to that folder and the profiles' files are brought in line with syncUpProfileFiles,
   // whose last status is returned; a failing profile does not stop the others.
+  // 1: an empty name, nothing changed; or no folder in designFilePath, the name changed.
   unsigned long renameDesign(std::string& designName, std::string& designFilePath);
   // Forgets the design and its schematics; nothing is deleted on disk. 1 unless front end 2.
   unsigned long deleteDesign();
-  // Attaches a design file and makes its schematics. 1 unless front end 2; 10104, recorded: no
-  // such file.
+  // Attaches a design file and makes its schematics; profiles come with initialize. 1 unless front
+  // end 2, and for a path without a folder; 10104, recorded: no such file; 10110: unreadable.
   unsigned long addDesign(std::string& designFilePath);
 
   // ---- Archive and rename; the tree stays as it is ----
 
-  // Copies every profile's files below archiveDir/NAME-TervixFiles/SCHEMATIC/PROFILE. archiveDir
-  // is rewritten: forward slashes, no trailing one. 0 without action unless the project is a
-  // PROJECT_TYPE_SIMULATION; 1 for an empty archiveDir; otherwise the first failing status.
+  // Copies every profile, ".sim" file and folder, to archiveDir/NAME-TervixFiles/SCHEMATIC, as
+  // syncUpProfileFiles does; a profile that has no folder of its own stops it with 10123.
+  // archiveDir is rewritten: forward slashes, no trailing one. 0 without action unless the project
+  // is a PROJECT_TYPE_SIMULATION; 1 for an empty archiveDir; 10123, nothing made: it lies in a
+  // profile's folder; otherwise the first failing status.
   unsigned long archiveProject(std::string& archiveDir);
   // Carries every profile's files from the place that belongs to one project file to that of the
   // other. The first failing status.
@@ -351,7 +358,12 @@ private:
   TERVIX_LOCAL unsigned long findDesignLevelFile(bool& found, std::string*& entry,
                                                  std::string& file, VARIANTFILE_TYPE type);
   TERVIX_LOCAL unsigned long addProfileTo(CTervixNode*& profile, CTervixSchematic& schematic,
+                                          const std::string& schematicName,
                                           std::string& profileName);
+  TERVIX_LOCAL unsigned long findProfileIn(CTervixNode*& schematic, CTervixNode*& profile,
+                                           std::string& schematicName, std::string& profileName);
+  TERVIX_LOCAL unsigned long profileBasedFile(std::string& path, const std::string& profile,
+                                              std::string& suffix) const;
   TERVIX_LOCAL CTervixNode* renamedProfileOf(const std::string& simPath);
   TERVIX_LOCAL unsigned long moveToMarkerKey(CTervixProfile& profile) const;
   TERVIX_LOCAL unsigned long readDesign(std::vector<std::string>& schematicFolders);

@@ -80,11 +80,11 @@ public:
   // that is not set, file as it was.
   unsigned long getSchematicBasedFile(std::string& file, SCHEMATICFILE_TYPE type);
   unsigned long getSchematicBasedFile(std::string& file, std::string& suffix);
-  // The same while a rename is recorded in the project (CTervixProject::setChangedName), with
-  // the new or the former name put in. A schematic rename counts for the schematic that it
-  // names, by either name. A design rename puts in the design name. A project rename counts
-  // outside PROJECT_TYPE_SIMULATION: a recorded text with a separator is the folder itself, a
-  // bare name leaves the project's folder.
+  // The same, with the project's help for every type, while a rename is recorded in the project
+  // (CTervixProject::setChangedName), with the new or the former name put in. A schematic rename
+  // counts for the schematic that it names, by either name. A design rename puts in the design
+  // name. A project rename counts outside PROJECT_TYPE_SIMULATION: a recorded text with a separator
+  // is the folder itself, a bare name leaves the project's folder.
   unsigned long getSchematicBasedFile(std::string& file, std::string& suffix, bool useNewName);
 
   unsigned long setRoot(bool root);
@@ -98,8 +98,9 @@ public:
   // folder (NEW/profile/profile.sim), so its files go one folder deeper than a freshly opened
   // project looks for them; a front end that wants them beside the folder carries them there
   // itself with syncUpProfileFiles.
-  // An empty name or no parent: 1, nothing changed. Otherwise the status of the profile that
-  // failed; profiles handled before it stay moved.
+  // Without a record such a profile's new folder would lie in its old one: 10123.
+  // An empty name, no project type or no parent project: 1, nothing changed. Otherwise the status
+  // of the profile that failed; profiles handled before it stay moved.
   unsigned long rename(std::string& newName);
 
   // The folder that a recorded schematic or design rename gives this schematic. path is left as

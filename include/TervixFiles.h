@@ -101,9 +101,10 @@ TERVIX_API unsigned long closeDir(_dirdesc* handle);
 // Copies what stands in the folder source into the folder target, made with its parents when
 // missing, and stops at the first entry that cannot be copied. Nothing is rolled back.
 // Deliberate: a name without a dot is taken for a folder, a name with one for a file, whatever
-// the entry is.
+// the entry is. A link is copied as what it leads to; one that leads nowhere is left out.
 // 0; 10102, recorded, when target cannot be made; 1 when source cannot be opened, an entry
-// fails, or target is source or lies in it (nothing is made then).
+// fails, a link leads back to a folder that is being copied, or target is source or lies in it
+// (nothing is made then).
 TERVIX_API unsigned long cpDir(std::string& source, std::string& target);
 
 // Copies a regular file. A target that exists is overwritten and keeps its permissions, a new

@@ -106,6 +106,9 @@ unsigned long CTervixProfile::isActive(bool& active) const {
 }
 
 unsigned long CTervixProfile::setVariantFilePath(std::string& path) {
+  // A file that could not be read stays protected where a rename is about to carry it.
+  if (!unreadVariantFile_.empty() && !path.empty())
+    unreadVariantFile_ = tervix::platform::exists(path) ? std::string() : path;
   return setUnlessEmpty(variantFilePath_, path);
 }
 unsigned long CTervixProfile::getVariantFilePath(std::string& path) const {

@@ -116,12 +116,14 @@ unsigned long CTervixSchematic::addProfile(CTervixNode*& profile, std::string& n
     return status;
   if (simPath.empty())
     return 1;
-  // A profile without a name could not be listed, and nothing would ever own it.
-  auto* added = name.empty() ? nullptr
-                             : new (std::nothrow)
-                                   CTervixProfile(simPath.c_str(), name.c_str(),
-                                                  displayName.c_str(), tervix::frontEndOf(*this),
-                                                  tervix::projectTypeOf(*this), this);
+  // A profile without a name could not be listed, and one whose name ends at a zero byte might be
+  // listed already; nothing would ever own it.
+  auto* added =
+      !tervix::isNodeName(name)
+          ? nullptr
+          : new (std::nothrow)
+                CTervixProfile(simPath.c_str(), name.c_str(), displayName.c_str(),
+                               tervix::frontEndOf(*this), tervix::projectTypeOf(*this), this);
   if (added == nullptr) {
     tervix::raiseError(tervix::kCannotAddProfile, name);
     return 1;

@@ -37,6 +37,11 @@ inline PROJECT_TYPE projectTypeOf(const CTervixNode& node) {
   return type;
 }
 
+// Whether a text can name a node that is made from a C string.
+inline bool isNodeName(const std::string& name) {
+  return !name.empty() && name.find('\0') == std::string::npos;
+}
+
 inline bool isSimulation(const CTervixNode& node) {
   return projectTypeOf(node) == PROJECT_TYPE_SIMULATION;
 }

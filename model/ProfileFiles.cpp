@@ -27,6 +27,7 @@ unsigned long CTervixProfile::loadRunFilePaths() {
   std::string outFile;
   std::string dataFile;
   std::string simPath;
+  const tervix::LastErrorKept kept;
   if (getPath(simPath) != 0 || tervix::readDataAndOutFile(outFile, dataFile, simPath) != 0)
     return 1;
   setDatFilePath(dataFile);

@@ -19,7 +19,8 @@ unsigned long CTervixProfile::rename(std::string& newName) {
   setFolderPath(folder);
   displayName_ = tervix::nameOf(*schematic) + "-" + name;
   // Set for every project type, although only a simulation project saves the list.
-  variantFilePath_ = tervix::includeListIn(folder, name);
+  std::string includeList = tervix::includeListIn(folder, name);
+  setVariantFilePath(includeList);
   setMarkerKey();
   std::string oldPath = tervix::pathOf(*this);
   const std::string stem =

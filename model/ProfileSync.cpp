@@ -16,12 +16,26 @@ namespace platform = tervix::platform;
 
 namespace {
 
+// Whether a file stands there that a copy must not touch, be it readable or not.
+bool isFileThere(const std::string& path) {
+  return platform::isTaken(path) && !platform::isFolder(path);
+}
+
+// Half a copy would pass for a whole one the next time.
+bool copyWhole(std::string& source, std::string& target) {
+  if (cpFile(source, target) == 0)
+    return true;
+  rmFile(target);
+  return false;
+}
+
 unsigned long copySimFile(std::string& oldPath, std::string& newPath) {
-  if (!platform::isReadableFile(oldPath) || platform::isReadableFile(newPath))
+  if (!platform::isReadableFile(oldPath) || isFileThere(newPath))
     return 0;
   auto folder = tervix::folderOf(newPath);
-  const bool hasFolder = !folder || createPath(*folder) == 0;
-  if (hasFolder && cpFile(oldPath, newPath) == 0)
+  const bool hasFolder =
+      !folder || folder->empty() || platform::isFolder(*folder) || createPath(*folder) == 0;
+  if (hasFolder && copyWhole(oldPath, newPath))
     return 0;
   return tervix::raiseError(tervix::kCannotCopyFile, oldPath, newPath);
 }
@@ -29,11 +43,11 @@ unsigned long copySimFile(std::string& oldPath, std::string& newPath) {
 // In a copied folder a file under its new name is the newer one; the one under the old name was
 // only carried along.
 void takeNewName(std::string oldFile, std::string newFile) {
-  if (!platform::isReadableFile(oldFile))
+  if (!platform::isReadableFile(oldFile) || platform::isSameEntry(oldFile, newFile))
     return;
   if (platform::isReadableFile(newFile))
     rmFile(oldFile);
-  else
+  else if (!isFileThere(newFile))
     mvFile(oldFile, newFile);
 }
 
@@ -62,6 +76,8 @@ unsigned long CTervixProfile::syncUpProfileFiles(std::string& oldPath, std::stri
 unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& newPath) {
   std::string oldFolder = withoutEnding(oldPath);
   std::string newFolder = withoutEnding(newPath);
+  if (oldFolder.empty() || newFolder.empty())
+    return 1;
   unsigned long result = 0;
   if (!platform::isSameEntry(oldFolder, newFolder) && cpDir(oldFolder, newFolder) != 0)
     result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
@@ -83,9 +99,9 @@ unsigned long CTervixProfile::syncUpFiles(std::string& oldPath, std::string& new
   for (const char* suffix : tervix::kProfileFileSuffixes) {
     std::string oldFile = tervix::fileBesideSim(withoutEnding(oldPath), suffix);
     std::string newFile = tervix::fileBesideSim(withoutEnding(newPath), suffix);
-    if (!platform::isReadableFile(oldFile) || platform::isReadableFile(newFile))
+    if (!platform::isReadableFile(oldFile) || isFileThere(newFile))
       continue;
-    if (cpFile(oldFile, newFile) != 0)
+    if (!copyWhole(oldFile, newFile))
       result = tervix::raiseError(tervix::kCannotCopyFile, oldFile, newFile);
   }
   return result;

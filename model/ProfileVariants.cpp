@@ -43,36 +43,41 @@ void appendEntry(std::string& text, std::string_view keyword, const std::string&
   text.append(keyword).append("\t\"").append(tervix::toBackslashes(path)).append("\" \n");
 }
 
+bool isKind(VARIANTFILE_TYPE type) {
+  return type >= VARIANTFILE_TYPE_LIBRARY && type <= VARIANTFILE_TYPE_INCLUDE;
+}
+
+unsigned long refuseKind() {
+  return tervix::raiseError(tervix::kInvalidProfileVariantType);
+}
+
 } // namespace
 
 bool CTervixProfile::hasVariants() const {
   return tervix::isSimulation(*this);
 }
 
-std::vector<std::string>* CTervixProfile::listOf(VARIANTFILE_TYPE type) {
-  switch (static_cast<int>(type)) {
-  case VARIANTFILE_TYPE_LIBRARY:
-    return &libraryFiles_;
-  case VARIANTFILE_TYPE_STIMULUS:
-    return &stimulusFiles_;
-  case VARIANTFILE_TYPE_INCLUDE:
-    return &includeFiles_;
-  default:
-    tervix::raiseError(tervix::kInvalidProfileVariantType);
-    return nullptr;
-  }
+// The caller has checked the type.
+const std::vector<std::string>& CTervixProfile::listOf(VARIANTFILE_TYPE type) const {
+  if (type == VARIANTFILE_TYPE_LIBRARY)
+    return libraryFiles_;
+  return type == VARIANTFILE_TYPE_STIMULUS ? stimulusFiles_ : includeFiles_;
+}
+
+std::vector<std::string>& CTervixProfile::listOf(VARIANTFILE_TYPE type) {
+  return const_cast<std::vector<std::string>&>(std::as_const(*this).listOf(type));
 }
 
 unsigned long CTervixProfile::getTopProfileLevelFile(std::string& file, VARIANTFILE_TYPE type) {
   file.clear();
   if (!hasVariants())
     return 1;
-  const auto* const list = listOf(type);
-  if (list == nullptr)
-    return tervix::kInvalidProfileVariantType;
-  if (!list->empty()) {
+  if (!isKind(type))
+    return refuseKind();
+  const auto& list = listOf(type);
+  if (!list.empty()) {
     cursors_[type] = 0;
-    file = list->front();
+    file = list.front();
   }
   return 0;
 }
@@ -81,12 +86,12 @@ unsigned long CTervixProfile::getNextProfileLevelFile(std::string& file, VARIANT
   file.clear();
   if (!hasVariants())
     return 1;
-  const auto* const list = listOf(type);
-  if (list == nullptr)
-    return tervix::kInvalidProfileVariantType;
+  if (!isKind(type))
+    return refuseKind();
+  const auto& list = listOf(type);
   unsigned int& cursor = cursors_[type];
-  if (list->size() > cursor && list->size() > ++cursor)
-    file = (*list)[cursor];
+  if (list.size() > cursor && list.size() > ++cursor)
+    file = list[cursor];
   return 0;
 }
 
@@ -95,10 +100,10 @@ unsigned long CTervixProfile::findProfileLevelFile(bool& found, std::string*& en
   found = false;
   if (!hasVariants())
     return 1;
-  auto* const list = listOf(type);
-  if (list == nullptr)
-    return tervix::kInvalidProfileVariantType;
-  for (std::string& listed : *list)
+  if (!isKind(type))
+    return refuseKind();
+  auto& list = listOf(type);
+  for (std::string& listed : list)
     if (tervix::equalsAsPath(listed, file)) {
       found = true;
       entry = &listed;
@@ -114,8 +119,8 @@ unsigned long CTervixProfile::addProfileLevelFile(std::string& file, VARIANTFILE
   if (const unsigned long status = findProfileLevelFile(found, entry, file, type); status != 0)
     return status;
   if (!found) {
-    auto* const list = listOf(type);
-    list->insert(atFront ? list->begin() : list->end(), file);
+    auto& list = listOf(type);
+    list.insert(atFront ? list.begin() : list.end(), file);
   }
   variantsUpdated_ = updated;
   return 0;
@@ -128,18 +133,18 @@ unsigned long CTervixProfile::deleteProfileLevelFile(std::string& file, VARIANTF
   if (const unsigned long status = findProfileLevelFile(found, entry, file, type); status != 0)
     return status;
   if (found) {
-    auto* const list = listOf(type);
-    list->erase(list->begin() + (entry - list->data()));
+    auto& list = listOf(type);
+    list.erase(list.begin() + (entry - list.data()));
   }
   variantsUpdated_ = updated;
   return 0;
 }
 
 unsigned long CTervixProfile::deleteAllProfileLevelFiles(VARIANTFILE_TYPE type, bool updated) {
-  auto* const list = listOf(type);
-  if (list == nullptr)
-    return tervix::kInvalidProfileVariantType;
-  list->clear();
+  if (!isKind(type))
+    return refuseKind();
+  auto& list = listOf(type);
+  list.clear();
   variantsUpdated_ = updated;
   return 0;
 }
@@ -147,16 +152,14 @@ unsigned long CTervixProfile::deleteAllProfileLevelFiles(VARIANTFILE_TYPE type, 
 unsigned long CTervixProfile::deleteAllProfileLevelFiles(bool updated) {
   for (const EntryForm& form : kEntryForms)
     deleteAllProfileLevelFiles(form.type, updated);
-  variantsUnread_ = false;
+  unreadVariantFile_.clear();
   return 0;
 }
 
 unsigned long CTervixProfile::numberOfProfileLevelFiles(int& count, VARIANTFILE_TYPE type) const {
-  // The list is only read; a const twin of listOf would say its table twice.
-  const auto* const list = const_cast<CTervixProfile*>(this)->listOf(type);
-  if (list == nullptr)
-    return tervix::kInvalidProfileVariantType;
-  count = static_cast<int>(list->size());
+  if (!isKind(type))
+    return refuseKind();
+  count = static_cast<int>(listOf(type).size());
   return 0;
 }
 
@@ -172,18 +175,20 @@ unsigned long CTervixProfile::readProfileLevelVariants() {
   tervix::LineReader file;
   const auto opening = file.open(variantFilePath_);
   if (opening == platform::FileReader::Opening::kNoReadableFile) {
-    variantsUnread_ = platform::exists(variantFilePath_);
+    if (platform::isTaken(variantFilePath_))
+      unreadVariantFile_ = variantFilePath_;
     return tervix::raiseError(tervix::kFileDoesNotExist, variantFilePath_);
   }
   Lists lists;
   if (opening == platform::FileReader::Opening::kOpened)
     while (const auto line = file.next())
       takeLine(*line, lists);
-  variantsUnread_ = opening != platform::FileReader::Opening::kOpened || file.failed();
-  if (variantsUnread_)
+  if (opening != platform::FileReader::Opening::kOpened || file.failed()) {
+    unreadVariantFile_ = variantFilePath_;
     return tervix::raiseError(tervix::kCannotReadFile, variantFilePath_);
+  }
   for (const EntryForm& form : kEntryForms)
-    *listOf(form.type) = std::move(lists[form.type]);
+    listOf(form.type) = std::move(lists[form.type]);
   return 0;
 }
 
@@ -199,11 +204,11 @@ unsigned long CTervixProfile::writeProfileLevelVariants() {
   }
   if (variantFilePath_.empty())
     return 1;
-  if (variantsUnread_ && platform::exists(variantFilePath_))
-    return tervix::raiseError(tervix::kCannotReadFile, variantFilePath_);
+  if (unreadVariantFile_ == variantFilePath_ && platform::isTaken(variantFilePath_))
+    return tervix::raiseError(tervix::kCannotWriteFile, variantFilePath_);
   std::string text;
   for (const EntryForm& form : kEntryForms)
-    for (const std::string& path : *listOf(form.type))
+    for (const std::string& path : listOf(form.type))
       appendEntry(text, form.keyword, path);
   // A list without entries is removed, not emptied first: it stays whole if that fails.
   const bool isWritten = (text.empty() && platform::isWritableFile(variantFilePath_)) ||

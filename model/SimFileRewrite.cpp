@@ -42,7 +42,7 @@ std::optional<std::string> rewrittenContent(const std::string& simPath,
 
 unsigned long rewriteSimKeys(const std::string& simPath, const std::vector<SimKeyValue>& values) {
   const std::string backup = simPath + ".bak";
-  const bool keepBackup = platform::exists(backup) && !platform::isReadableFolder(backup);
+  const bool keepBackup = platform::isTaken(backup) && !platform::isFolder(backup);
   if (!keepBackup && !platform::copyFile(simPath, backup)) {
     platform::removeFile(backup);
     return raiseError(kCannotCopyFile, simPath, backup);

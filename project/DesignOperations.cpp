@@ -43,9 +43,9 @@ unsigned long CTervixProject::getProfileDir(std::string& profileDir, std::string
 }
 
 unsigned long CTervixProject::renameDesign(std::string& designName, std::string& designFilePath) {
-  designFilePath = tervix::toForwardSlashes(designFilePath);
   if (designName.empty())
     return 1;
+  designFilePath = tervix::toForwardSlashes(designFilePath);
   const bool isOther = tervix::projectTypeOf(*this) == PROJECT_TYPE_OTHER;
   setDesignName(designName);
   std::string folder;
@@ -97,17 +97,17 @@ unsigned long CTervixProject::addDesign(std::string& designFilePath) {
     return 1;
   if (!tervix::platform::isReadableFile(designFilePath))
     return tervix::raiseError(tervix::kFileDoesNotExist, designFilePath);
+  std::string path = tervix::toForwardSlashes(designFilePath);
   std::string fileName;
   std::string folder;
   std::string name;
-  if (const unsigned long status = getFileNameFromFileNamePath(designFilePath, fileName);
-      status != 0)
+  if (const unsigned long status = getFileNameFromFileNamePath(path, fileName); status != 0)
     return status;
-  if (const unsigned long status = getFilePathFromFileNamePath(designFilePath, folder); status != 0)
+  if (const unsigned long status = getFilePathFromFileNamePath(path, folder); status != 0)
     return status;
   if (const unsigned long status = removeExtensionFromFileName(fileName, name); status != 0)
     return status;
   std::vector<std::string> schematicFolders;
-  return initializeDesignConfiguration(schematicFolders, designFilePath, folder, name,
+  return initializeDesignConfiguration(schematicFolders, path, folder, name,
                                        FRONTEND_ID_DESIGN_FILE, tervix::projectTypeOf(*this));
 }

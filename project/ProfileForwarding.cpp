@@ -148,8 +148,10 @@ unsigned long CTervixProject::getNetFileForProfile(std::string& netFile,
   std::string found;
   const unsigned long status =
       withProfileOfFile(*this, profileFilePath, [&](CTervixProfile& profile) {
-        auto& schematic = static_cast<CTervixSchematic&>(*tervix::parentOf(profile));
-        return schematic.getSchematicBasedFile(found, SCHEMATIC_FILE_NET);
+        // A client may have given the profile another parent.
+        auto* const schematic = dynamic_cast<CTervixSchematic*>(tervix::parentOf(profile));
+        return schematic != nullptr ? schematic->getSchematicBasedFile(found, SCHEMATIC_FILE_NET)
+                                    : 1;
       });
   netFile = found;
   return status;

@@ -9,6 +9,7 @@
 #include "model/ProjectLink.h"
 #include "model/SimFile.h"
 #include "model/TreeWalk.h"
+#include "project/ProfileSearch.h"
 
 // Finding the profile that a ".sim" file belongs to.
 
@@ -46,10 +47,13 @@ void completeFromPlace(ProfileKey& key, const std::string& simPath, const CTervi
     key.schematic = tervix::designNameOf(project);
     return;
   }
-  const auto folder = tervix::folderOf(simPath);
-  const auto above = folder ? tervix::folderOf(*folder) : std::nullopt;
-  if (above && tervix::endsWithIgnoringCase(*above, tervix::kFilesFolderEnding))
+  for (auto folder = tervix::folderOf(simPath); folder; folder = tervix::folderOf(*folder)) {
+    const auto above = tervix::folderOf(*folder);
+    if (!above || !tervix::endsWithIgnoringCase(*above, tervix::kFilesFolderEnding))
+      continue;
     key.schematic = tervix::fileNameOf(*folder);
+    return;
+  }
 }
 
 // The names that the file holds. A simulation project's file has all keys of a profile file, some
@@ -73,8 +77,8 @@ unsigned long readKey(ProfileKey& key, const std::string& simPath, const CTervix
 std::vector<std::string> candidatePaths(const std::string& simPath, const ProfileKey& key,
                                         const std::string& design) {
   std::vector<std::string> paths = {simPath};
-  const std::string folder =
-      tervix::folderOf(tervix::toForwardSlashes(simPath)).value_or(std::string()) + "/";
+  const auto own = tervix::folderOf(tervix::toForwardSlashes(simPath));
+  const std::string folder = own ? *own + "/" : std::string();
   if (!key.profile.empty())
     paths.push_back(folder + key.profile + tervix::kSimEnding);
   if (!key.isWhole())
@@ -99,15 +103,16 @@ CTervixNode* CTervixProject::renamedProfileOf(const std::string& simPath) {
                                  std::string(tervix::withoutLast(stem, record.changed.size())) +
                                  record.former + tervix::kSimEnding;
   CTervixNode* found = nullptr;
-  TreeWalk::anyProfile(*this, [&](CTervixSchematic&, CTervixProfile& profile) {
-    if (!tervix::equalsIgnoringCase(tervix::nameOf(profile), record.former))
-      return false;
-    const bool isExact = tervix::equalsAsPath(tervix::pathOf(profile), formerPath);
-    if (isExact || found == nullptr)
-      found = &profile;
-    return isExact;
-  });
-  return found;
+  const bool isSettled =
+      TreeWalk::anyProfile(*this, [&](CTervixSchematic&, CTervixProfile& profile) {
+        const std::string path = tervix::pathOf(profile);
+        const bool isFormer = tervix::equalsIgnoringCase(tervix::nameOf(profile), record.former);
+        if (isFormer && (found == nullptr || tervix::equalsAsPath(path, formerPath)))
+          found = &profile;
+        return isFormer && tervix::equalsAsPath(path, formerPath);
+      });
+  // The record outlives the rename: a file that the tree lists by now stands for itself.
+  return isSettled || tervix::profileWithPath(*this, simPath) == nullptr ? found : nullptr;
 }
 
 unsigned long CTervixProject::findProfile(CTervixNode*& profile, std::string& schematicName,
@@ -126,13 +131,15 @@ unsigned long CTervixProject::findProfile(CTervixNode*& profile, std::string& sc
     return handOut(renamed, tervix::changedNameOf(*this).former);
   ProfileKey key;
   const unsigned long status = readKey(key, profileFilePath, *this);
+  // Composed first, as the caller may want a name in the string that holds the path.
+  std::vector<std::string> candidates = candidatePaths(profileFilePath, key, designName_);
   if (!key.schematic.empty())
     schematicName = key.schematic;
   if (!key.profile.empty())
     profileName = key.profile;
   if (key.isWhole() && findProfile(profile, key.schematic, key.profile) == 0)
     return 0;
-  for (std::string& candidate : candidatePaths(profileFilePath, key, designName_)) {
+  for (std::string& candidate : candidates) {
     bool exists = false;
     CTervixNode* found = nullptr;
     simProfileExists(exists, found, candidate);

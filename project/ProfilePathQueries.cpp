@@ -8,40 +8,18 @@
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"
-#include "model/TreeWalk.h"
+#include "project/ProfileSearch.h"
 
 // Where a profile and its files lie, asked of the project by name or by ".sim" path.
 
 namespace {
 
-CTervixProfile* profileNamed(const CTervixProject& project, const std::string& name) {
-  CTervixProfile* found = nullptr;
-  TreeWalk::anyProfile(project, [&](CTervixSchematic&, CTervixProfile& profile) {
-    if (!tervix::equalsIgnoringCase(tervix::nameOf(profile), name))
-      return false;
-    found = &profile;
-    return true;
-  });
-  return found;
-}
-
-CTervixProfile* profileAt(const CTervixProject& project, const std::string& simPath) {
-  CTervixProfile* found = nullptr;
-  TreeWalk::anyProfile(project, [&](CTervixSchematic&, CTervixProfile& profile) {
-    if (!tervix::equalsAsPath(tervix::pathOf(profile), simPath))
-      return false;
-    found = &profile;
-    return true;
-  });
-  return found;
-}
-
 // The profile that stands in the tree under this name or path.
 CTervixProfile* profileFor(const CTervixProject& project, const std::string& nameOrPath) {
   if (nameOrPath.empty())
     return nullptr;
-  CTervixProfile* named = profileNamed(project, nameOrPath);
-  return named != nullptr ? named : profileAt(project, nameOrPath);
+  CTervixProfile* named = tervix::profileNamed(project, nameOrPath);
+  return named != nullptr ? named : tervix::profileWithPath(project, nameOrPath);
 }
 
 bool isSimPath(const std::string& text) {
@@ -54,7 +32,7 @@ CTervixProfile* formerProfileOf(const CTervixProject& project, const std::string
   const tervix::ChangedName record = tervix::changedNameOf(project);
   const bool isNewName =
       record.isWholeFor(RENAME_TYPE_PROFILE) && tervix::equalsIgnoringCase(record.changed, newName);
-  return isNewName ? profileNamed(project, record.former) : nullptr;
+  return isNewName ? tervix::profileNamed(project, record.former) : nullptr;
 }
 
 // The name of a file in the place of its profile, which need not be in the tree.
@@ -108,7 +86,8 @@ void followRename(std::string& simPath, const CTervixProject& project, const CTe
   const auto former = forms(record.former);
   const auto changed = forms(record.changed);
   for (std::size_t form = 0; stem && form < former.size(); ++form) {
-    if (!tervix::equalsIgnoringCase(*stem, former.at(form)))
+    const bool isRenamed = former.at(form) != changed.at(form);
+    if (!isRenamed || !tervix::equalsIgnoringCase(*stem, former.at(form)))
       continue;
     const auto folder = tervix::folderOf(simPath);
     simPath = (folder ? *folder + "/" : "") + changed.at(form) + name.substr(stem->size());
@@ -118,24 +97,30 @@ void followRename(std::string& simPath, const CTervixProject& project, const CTe
 
 } // namespace
 
+// Finds the profile of a schematic, also by the new name of a recorded rename.
+unsigned long CTervixProject::findProfileIn(CTervixNode*& schematic, CTervixNode*& profile,
+                                            std::string& schematicName, std::string& profileName) {
+  profile = nullptr;
+  if (const unsigned long status = findSchematic(schematic, schematicName); status != 0)
+    return status;
+  auto& holder = static_cast<CTervixSchematic&>(*schematic);
+  const unsigned long status = holder.findProfile(profile, profileName);
+  tervix::ChangedName record = tervix::changedNameOf(*this);
+  if (status == 0 || !record.isWholeFor(RENAME_TYPE_PROFILE) ||
+      !tervix::equalsIgnoringCase(record.changed, profileName))
+    return status;
+  return holder.findProfile(profile, record.former);
+}
+
 unsigned long CTervixProject::getProfilePathForSchProf(std::string& path,
                                                        std::string& schematicName,
                                                        std::string& profileName) {
   CTervixNode* schematic = nullptr;
-  if (const unsigned long status = findSchematic(schematic, schematicName); status != 0)
-    return status;
-  auto& holder = static_cast<CTervixSchematic&>(*schematic);
   CTervixNode* profile = nullptr;
-  if (unsigned long status = holder.findProfile(profile, profileName); status != 0) {
-    tervix::ChangedName record = tervix::changedNameOf(*this);
-    if (!record.isWholeFor(RENAME_TYPE_PROFILE) ||
-        !tervix::equalsIgnoringCase(record.changed, profileName))
-      return status;
-    if (status = holder.findProfile(profile, record.former); status != 0)
-      return status;
-  }
   std::string simPath;
-  const unsigned long status = profile->getPath(simPath);
+  unsigned long status = findProfileIn(schematic, profile, schematicName, profileName);
+  if (status == 0)
+    status = profile->getPath(simPath);
   if (status == 0 && tervix::frontEndOf(*this) == FRONTEND_ID_PROJECT_FILE)
     followRename(simPath, *this, *schematic, *profile);
   path = simPath;
@@ -146,8 +131,10 @@ unsigned long CTervixProject::getProfilePathForAapProf(std::string& path, std::s
                                                        std::string& profileName) {
   bool exists = false;
   CTervixNode* schematic = nullptr;
-  if (const unsigned long status = aapExists(exists, schematic, aapPath); status != 0)
+  if (const unsigned long status = aapExists(exists, schematic, aapPath); status != 0) {
+    path.clear();
     return status;
+  }
   std::string schematicName = tervix::nameOf(*schematic);
   return getProfilePathForSchProf(path, schematicName, profileName);
 }
@@ -159,11 +146,10 @@ unsigned long CTervixProject::getParentNameForProfile(std::string& name, std::st
   if (found == nullptr)
     found = formerProfileOf(*this, wanted);
   if (found == nullptr && isSimPath(wanted)) {
+    const tervix::LastErrorKept kept;
     std::string schematicName;
     std::string profileName;
-    if (const unsigned long status = findProfile(found, schematicName, profileName, wanted);
-        status != 0)
-      return status;
+    findProfile(found, schematicName, profileName, wanted);
   }
   if (found == nullptr)
     return 1;
@@ -173,14 +159,24 @@ unsigned long CTervixProject::getParentNameForProfile(std::string& name, std::st
 unsigned long CTervixProject::getProfileBasedFile(std::string& path, std::string& profile,
                                                   PROFILEFILE_TYPE type) {
   const auto index = static_cast<unsigned>(type);
-  if (index >= tervix::kProfileFileSuffixes.size())
+  if (index >= tervix::kProfileFileSuffixes.size()) {
+    path.clear();
     return tervix::raiseError(tervix::kInvalidProfileFileType);
+  }
   std::string suffix = tervix::kProfileFileSuffixes[index];
   return getProfileBasedFile(path, profile, suffix);
 }
 
 unsigned long CTervixProject::getProfileBasedFile(std::string& path, std::string& profile,
                                                   std::string& suffix) {
+  std::string found;
+  const unsigned long status = profileBasedFile(found, profile, suffix);
+  path = found;
+  return status;
+}
+
+unsigned long CTervixProject::profileBasedFile(std::string& path, const std::string& profile,
+                                               std::string& suffix) const {
   FRONTEND_ID frontEnd = FRONTEND_ID_UNSET;
   if (const unsigned long status = getFrontEndId(frontEnd); status != 0)
     return status;

@@ -1,9 +1,12 @@
+#include <algorithm>
+
 #include "CTervixProject.h"
 #include "foundation/Text.h"
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"
 #include "model/TreeWalk.h"
+#include "project/ProfileSearch.h"
 
 namespace {
 
@@ -31,40 +34,17 @@ PathRewrite rewriteFor(const tervix::ChangedName& record, PROJECT_TYPE type) {
   return {};
 }
 
-std::string inCaseOf(const PathRewrite& rewrite, const std::string& text) {
-  return rewrite.ignoresCase ? tervix::toLowerCase(text) : text;
+bool matches(const PathRewrite& rewrite, char a, char b) {
+  return rewrite.ignoresCase ? tervix::toLowerCase(a) == tervix::toLowerCase(b) : a == b;
 }
 
-// Puts the former name in the first place of the new one; false when there is none.
-bool applyRewrite(const PathRewrite& rewrite, std::string& path) {
-  if (rewrite.changedPiece.empty())
-    return false;
-  const std::string piece = inCaseOf(rewrite, rewrite.changedPiece);
-  const std::size_t place = inCaseOf(rewrite, path).find(piece);
-  if (place == std::string::npos)
-    return false;
-  path.replace(place, piece.size(), rewrite.formerPiece);
-  return true;
-}
-
-// How often a path can be rewritten: once when the former name brings the new one back in,
-// otherwise no more often than the path has characters.
-std::size_t mostRewrites(const PathRewrite& rewrite, const std::string& path) {
-  const bool comesBack = tervix::contains(inCaseOf(rewrite, rewrite.formerPiece),
-                                          inCaseOf(rewrite, rewrite.changedPiece));
-  return comesBack ? 1 : path.size();
-}
-
-CTervixNode* profileWithPath(const CTervixProject& project, const std::string& simPath) {
-  CTervixNode* found = nullptr;
-  TreeWalk::anyProfile(project, [&](CTervixSchematic&, CTervixProfile& profile) {
-    std::string path;
-    const bool isMatch = profile.getPath(path) == 0 && tervix::equalsAsPath(path, simPath);
-    if (isMatch)
-      found = &profile;
-    return isMatch;
-  });
-  return found;
+// Where text holds the piece with the new name, from a position on.
+std::size_t placeOfChanged(const PathRewrite& rewrite, const std::string& text, std::size_t from) {
+  const std::string& piece = rewrite.changedPiece;
+  const auto place =
+      std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), piece.begin(),
+                  piece.end(), [&](char a, char b) { return matches(rewrite, a, b); });
+  return place == text.end() ? std::string::npos : static_cast<std::size_t>(place - text.begin());
 }
 
 bool hasMarkerKey(const CTervixProfile& profile, const std::string& markerKey) {
@@ -104,11 +84,19 @@ unsigned long CTervixProject::simProfileExists(bool& exists, CTervixNode*& profi
   simPath = tervix::toForwardSlashes(simPath.substr(0, simPath.find(kBackupEnding)));
   const PathRewrite rewrite =
       rewriteFor(tervix::changedNameOf(*this), tervix::projectTypeOf(*this));
-  profile = profileWithPath(*this, simPath);
-  for (std::size_t left = mostRewrites(rewrite, simPath); profile == nullptr && left > 0; --left) {
-    if (!applyRewrite(rewrite, simPath))
+  // A former name that brings the new one back in is put in once; any other rewriting ends.
+  const bool comesBack = placeOfChanged(rewrite, rewrite.formerPiece, 0) != std::string::npos;
+  profile = tervix::profileWithPath(*this, simPath);
+  // No more often than the path has characters, whatever the names.
+  std::size_t left = rewrite.changedPiece.empty() ? 0 : comesBack ? 1 : simPath.size();
+  for (std::size_t from = 0; profile == nullptr && left > 0; --left) {
+    const std::size_t place = placeOfChanged(rewrite, simPath, from);
+    if (place == std::string::npos)
       break;
-    profile = profileWithPath(*this, simPath);
+    simPath.replace(place, rewrite.changedPiece.size(), rewrite.formerPiece);
+    profile = tervix::profileWithPath(*this, simPath);
+    // What stands before can hold the piece only where it reaches into what was put in.
+    from = place - std::min(place, rewrite.changedPiece.size() - 1);
   }
   exists = profile != nullptr;
   return 0;

@@ -26,6 +26,12 @@ std::string folderAbove(const std::string& path) {
   return tervix::folderOf(path).value_or(std::string());
 }
 
+// A file beside another one.
+std::string besideOf(const std::string& path, const std::string& name) {
+  const auto folder = tervix::folderOf(path);
+  return folder ? *folder + "/" + name : name;
+}
+
 bool isNamed(const std::string& folder, std::string_view name) {
   return tervix::equalsIgnoringCase(tervix::fileNameOf(folder), name);
 }
@@ -49,7 +55,7 @@ std::string projectFileBesideFiles(std::string folder, int depth) {
     const std::string name = tervix::fileNameOf(folder);
     const auto project = tervix::stripSuffix(name, tervix::kFilesFolderEnding);
     if (project && !project->empty())
-      return folderAbove(folder) + "/" + std::string(*project) + kProjectEnding;
+      return besideOf(folder, std::string(*project) + kProjectEnding);
   }
   return {};
 }
@@ -80,7 +86,7 @@ ProjectHint hintOfSim(const tervix::SimProjectInfo& info, const std::string& sim
                           ? FRONTEND_ID_PROJECT_FILE
                           : FRONTEND_ID_DESIGN_FILE;
     // Deliberate: whatever folder the key names, the project file lies beside the profile file.
-    hint.projectFile = folder + "/" + tervix::fileNameOf(info.projectFile);
+    hint.projectFile = besideOf(simPath, tervix::fileNameOf(info.projectFile));
   } else if (hint.type == PROJECT_TYPE_SIMULATION) {
     const std::string above = folderAbove(folder);
     if (isNamed(folder, kProfilesFolder) && isNamed(above, kSimulationFolder)) {
@@ -95,12 +101,12 @@ ProjectHint hintOfSim(const tervix::SimProjectInfo& info, const std::string& sim
 
 // The project file D.tvp beside a file named D-schematic; both names may hold a "-" themselves.
 std::string projectFileBeside(const std::string& path) {
-  const std::string folder = folderAbove(path);
+  constexpr std::size_t kLongestName = 255;
   const std::string stem = tervix::stemOf(path);
   std::string candidate;
-  for (std::size_t dash = stem.rfind('-'); dash != std::string::npos && dash != 0;
+  for (std::size_t dash = stem.rfind('-', kLongestName); dash != std::string::npos && dash != 0;
        dash = stem.rfind('-', dash - 1)) {
-    candidate = folder + "/" + stem.substr(0, dash) + kProjectEnding;
+    candidate = besideOf(path, stem.substr(0, dash) + kProjectEnding);
     if (platform::isReadableFile(candidate))
       break;
   }

@@ -24,14 +24,15 @@ unsigned long CTervixProject::addProfile(CTervixNode*& profile, bool& added,
   if (const unsigned long status = addSchematic(schematic, schematicName); status != 0)
     return status;
   const unsigned long status =
-      addProfileTo(profile, static_cast<CTervixSchematic&>(*schematic), profileName);
+      addProfileTo(profile, static_cast<CTervixSchematic&>(*schematic), schematicName, profileName);
   added = profile != nullptr;
   return status;
 }
 
 // Hands out the schematic's profile of that name, made when there is none. Where profiles have
-// display names, SCHEMATIC-PROFILE is a new one's.
+// display names, SCHEMATIC-PROFILE is a new one's, as the client spells them.
 unsigned long CTervixProject::addProfileTo(CTervixNode*& profile, CTervixSchematic& schematic,
+                                           const std::string& schematicName,
                                            std::string& profileName) {
   if (schematic.findProfile(profile, profileName) == 0)
     return 0;
@@ -40,7 +41,7 @@ unsigned long CTervixProject::addProfileTo(CTervixNode*& profile, CTervixSchemat
     return status;
   std::string displayName;
   if (frontEnd == FRONTEND_ID_DESIGN_FILE)
-    displayName = tervix::nameOf(schematic) + "-" + profileName;
+    displayName = schematicName + "-" + profileName;
   else if (frontEnd != FRONTEND_ID_PROJECT_FILE)
     return 1;
   return schematic.addProfile(profile, profileName, displayName);
@@ -72,7 +73,8 @@ unsigned long CTervixProject::addProfileToRootSchematic(CTervixNode*& profile,
   CTervixNode* root = nullptr;
   if (const unsigned long status = getRootSchematic(root); status != 0)
     return status;
-  return addProfileTo(profile, static_cast<CTervixSchematic&>(*root), profileName);
+  return addProfileTo(profile, static_cast<CTervixSchematic&>(*root), tervix::nameOf(*root),
+                      profileName);
 }
 
 unsigned long CTervixProject::addProfileToRootSchematic(std::string& profileName) {

@@ -27,7 +27,8 @@ struct ResourceItem {
 // A file that the project file lists. "ab/x" does not count as relative; a front end may mean it
 // so all the same, and gets it so where it leads to a file.
 std::string listedFile(const std::string& projectFolder, const std::string& listed) {
-  std::string file = resolvedAgainst(projectFolder, listed).value_or(listed);
+  std::string file = resolvedAgainst(projectFolder, listed)
+                         .value_or(projectFolder + "/" + toForwardSlashes(listed));
   const bool isUnchanged = file == toForwardSlashes(listed);
   const bool hasDrive = file.size() > 1 && file[1] == ':';
   const bool hasRoot = !file.empty() && file.front() == '/';

@@ -38,8 +38,9 @@ unsigned long CTervixProject::addSchematic(CTervixNode*& schematic, std::string&
   if (frontEnd == FRONTEND_ID_DESIGN_FILE)
     folder =
         type == PROJECT_TYPE_SIMULATION ? tervix::simulationFolder(*this, name) : designFolderPath_;
-  // A schematic without a name could not be listed, and nothing would ever own it.
-  auto* added = name.empty()
+  // A schematic without a name could not be listed, and one whose name ends at a zero byte might
+  // be listed already; nothing would ever own it.
+  auto* added = !tervix::isNodeName(name)
                     ? nullptr
                     : new (std::nothrow)
                           CTervixSchematic(folder.c_str(), name.c_str(), frontEnd, type, this);

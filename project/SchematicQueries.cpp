@@ -54,24 +54,32 @@ unsigned long CTervixProject::getRootSchematicNetFile(std::string& file) {
 unsigned long CTervixProject::getSchematicBasedFile(std::string& file, std::string& schematicName,
                                                     SCHEMATICFILE_TYPE type, bool useNewName) {
   std::string suffix;
-  if (const unsigned long status = suffixOf(suffix, type); status != 0)
+  if (const unsigned long status = suffixOf(suffix, type); status != 0) {
+    file.clear();
     return status;
+  }
   return getSchematicBasedFile(file, schematicName, suffix, useNewName);
 }
 
 unsigned long CTervixProject::getSchematicBasedFile(std::string& file, std::string& schematicName,
                                                     std::string& suffix, bool useNewName) {
   CTervixNode* schematic = nullptr;
-  if (const unsigned long status = findSchematic(schematic, schematicName); status != 0)
-    return status;
-  return static_cast<CTervixSchematic*>(schematic)->getSchematicBasedFile(file, suffix, useNewName);
+  std::string found;
+  unsigned long status = findSchematic(schematic, schematicName);
+  if (status == 0)
+    status =
+        static_cast<CTervixSchematic*>(schematic)->getSchematicBasedFile(found, suffix, useNewName);
+  file = found;
+  return status;
 }
 
 unsigned long CTervixProject::getSchematicBasedFileForAap(std::string& file, std::string& aapPath,
                                                           SCHEMATICFILE_TYPE type) {
   std::string suffix;
-  if (const unsigned long status = suffixOf(suffix, type); status != 0)
+  if (const unsigned long status = suffixOf(suffix, type); status != 0) {
+    file.clear();
     return status;
+  }
   return getSchematicBasedFileForAap(file, aapPath, suffix);
 }
 
@@ -79,7 +87,10 @@ unsigned long CTervixProject::getSchematicBasedFileForAap(std::string& file, std
                                                           std::string& suffix) {
   bool exists = false;
   CTervixNode* schematic = nullptr;
-  if (const unsigned long status = aapExists(exists, schematic, aapPath); status != 0)
-    return status;
-  return static_cast<CTervixSchematic*>(schematic)->getSchematicBasedFile(file, suffix);
+  std::string found;
+  unsigned long status = aapExists(exists, schematic, aapPath);
+  if (status == 0)
+    status = static_cast<CTervixSchematic*>(schematic)->getSchematicBasedFile(found, suffix);
+  file = found;
+  return status;
 }

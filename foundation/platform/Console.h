@@ -2,8 +2,8 @@
 
 namespace tervix::platform {
 
-// Whether standard output is a terminal that shows colours. Also prepares a console that has to
-// be told.
+// Whether standard output is a terminal that shows colours, and nobody refused them by setting
+// NO_COLOR. Also prepares a console that has to be told.
 bool standardOutputTakesColour();
 
 } // namespace tervix::platform

@@ -25,6 +25,8 @@ struct FolderEntry {
 bool isRooted(std::string_view path);
 
 bool exists(const std::string& path);
+// Whether the name is in use, also by a link that leads nowhere.
+bool isTaken(const std::string& path);
 bool isReadableFile(const std::string& path); // a regular file
 bool isWritableFile(const std::string& path); // a regular file
 bool isFolder(const std::string& path);

@@ -41,14 +41,17 @@ bool copyContents(const FileHandle& source, const FileHandle& target) {
 bool openTarget(FileHandle& target, const char* path, const struct stat& source) {
   const mode_t permissions = source.st_mode & kPermissionBits;
   const bool isNew = target.open(path, O_WRONLY | O_CREAT | O_EXCL, permissions);
-  if (!isNew && !target.open(path, O_WRONLY))
+  if (!isNew && !target.open(path, O_WRONLY | O_CREAT, permissions))
     return false;
   const auto status = target.status();
   if (!isRegular(status) || (status->st_dev == source.st_dev && status->st_ino == source.st_ino))
     return false;
-  if (isNew && (status->st_mode & kPermissionBits) != permissions)
-    return fchmod(target.descriptor(), permissions) == 0;
-  return isNew || ftruncate(target.descriptor(), 0) == 0;
+  if (!isNew)
+    return ftruncate(target.descriptor(), 0) == 0;
+  // Some file systems have no permissions to set; the copy is none the worse for it.
+  if ((status->st_mode & kPermissionBits) != permissions)
+    static_cast<void>(fchmod(target.descriptor(), permissions));
+  return true;
 }
 
 // The file itself where path is a link to it.
@@ -57,12 +60,18 @@ std::string linkResolved(const char* path) {
   return resolved ? resolved.get() : path;
 }
 
-bool writeNewFile(const std::string& path, std::string_view content, mode_t permissions) {
+// former is the file whose place the new one takes.
+bool writeNewFile(const std::string& path, std::string_view content,
+                  const std::optional<struct stat>& former) {
   FileHandle file;
   if (!file.open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, kNewFilePermissions))
     return false;
-  const bool permitted = permissions == 0 || fchmod(file.descriptor(), permissions) == 0;
-  if (permitted && file.write(content) && file.close())
+  if (former) {
+    if (former->st_uid != geteuid() || former->st_gid != getegid())
+      static_cast<void>(fchown(file.descriptor(), former->st_uid, former->st_gid));
+    static_cast<void>(fchmod(file.descriptor(), former->st_mode & kPermissionBits));
+  }
+  if (file.write(content) && file.close())
     return true;
   unlink(path.c_str());
   return false;
@@ -94,15 +103,17 @@ std::string unusedNameBeside(const std::string& path) {
 
 bool replaceFile(const std::string& path, std::string_view content) {
   const std::string file = linkResolved(NativePath(path).get());
-  struct stat status {};
-  mode_t permissions = 0;
-  if (stat(file.c_str(), &status) == 0) {
-    if (!S_ISREG(status.st_mode) || access(file.c_str(), W_OK) != 0)
+  std::optional<struct stat> former(std::in_place);
+  if (stat(file.c_str(), &*former) != 0) {
+    // A link that leads nowhere may lead somewhere tomorrow.
+    if (lstat(file.c_str(), &*former) == 0)
       return false;
-    permissions = status.st_mode & kPermissionBits;
+    former.reset();
+  } else if (!S_ISREG(former->st_mode) || access(file.c_str(), W_OK) != 0) {
+    return false;
   }
   const std::string written = unusedNameBeside(file);
-  if (!writeNewFile(written, content, permissions))
+  if (!writeNewFile(written, content, former))
     return false;
   if (rename(written.c_str(), file.c_str()) == 0)
     return true;
@@ -120,16 +131,7 @@ FileReader::~FileReader() = default;
 FileReader::Opening FileReader::open(const std::string& path) {
   if (handle_->file.open(NativePath(path).get(), O_RDONLY))
     return isRegular(handle_->file.status()) ? Opening::kOpened : Opening::kNoReadableFile;
-  switch (errno) {
-  case EMFILE:
-  case ENFILE:
-  case ENOMEM:
-  case EIO:
-  case ENOSPC:
-    return Opening::kFailed;
-  default:
-    return Opening::kNoReadableFile;
-  }
+  return isReadableFile(path) ? Opening::kFailed : Opening::kNoReadableFile;
 }
 
 std::optional<std::size_t> FileReader::read(char* buffer, std::size_t size) {

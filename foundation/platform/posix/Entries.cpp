@@ -1,5 +1,6 @@
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <filesystem>
 #include <memory>
 
@@ -40,6 +41,15 @@ EntryKind kindOf(const dirent& entry) {
   }
 }
 
+// The path without links, "." and ".." as far as it exists, and what is left of it behind that.
+std::filesystem::path resolved(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path native(NativePath(path).get());
+  const std::filesystem::path place = std::filesystem::weakly_canonical(native, error);
+  return error || !place.is_absolute() ? std::filesystem::absolute(native, error).lexically_normal()
+                                       : place;
+}
+
 struct FolderCloser {
   void operator()(DIR* folder) const { closedir(folder); }
 };
@@ -52,6 +62,11 @@ bool isRooted(std::string_view path) {
 
 bool exists(const std::string& path) {
   return access(NativePath(path).get(), F_OK) == 0;
+}
+
+bool isTaken(const std::string& path) {
+  struct stat status {};
+  return lstat(NativePath(path).get(), &status) == 0;
 }
 
 bool isReadableFile(const std::string& path) {
@@ -77,15 +92,15 @@ bool isSameEntry(const std::string& a, const std::string& b) {
 }
 
 bool liesIn(const std::string& path, const std::string& folder) {
+  // No such path can be made, and taking it apart would take very long.
+  if (path.size() >= PATH_MAX || folder.size() >= PATH_MAX)
+    return false;
   std::error_code error;
-  const std::filesystem::path native(NativePath(folder).get());
-  std::filesystem::path place =
-      std::filesystem::weakly_canonical(std::filesystem::path(NativePath(path).get()), error);
-  if (error || !place.is_absolute())
-    place = std::filesystem::absolute(NativePath(path).get(), error).lexically_normal();
+  const std::filesystem::path native = resolved(folder);
+  std::filesystem::path place = resolved(path);
   // Compared entry by entry on the way up, as one folder can have several paths.
   for (;;) {
-    if (std::filesystem::equivalent(place, native, error))
+    if (place == native || std::filesystem::equivalent(place, native, error))
       return true;
     std::filesystem::path parent = place.parent_path();
     if (parent == place)

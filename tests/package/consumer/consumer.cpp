@@ -7,6 +7,13 @@
 #include <iostream>
 #include <vector>
 
+// A client may derive nodes of its own.
+class Bookmark : public CTervixNode {
+public:
+  unsigned long writeVariants() override { return 0; }
+  unsigned long readVariants() override { return 0; }
+};
+
 int main(int argc, char** argv) {
   if (argc != 3)
     return 2;
@@ -19,11 +26,13 @@ int main(int argc, char** argv) {
     return 1;
   }
   std::vector<std::string> names;
+  Bookmark bookmark;
+  bookmark.setParent(&project);
   CTervixNode* schematic = nullptr;
   CTervixNode* profile = nullptr;
   for (project.getTopSchematic(schematic); schematic != nullptr;
        project.getNextSchematic(schematic)) {
-    auto& listed = static_cast<CTervixSchematic&>(*schematic);
+    auto& listed = dynamic_cast<CTervixSchematic&>(*schematic);
     for (listed.getTopProfile(profile); profile != nullptr; listed.getNextProfile(profile)) {
       std::string schematicName;
       std::string profileName;

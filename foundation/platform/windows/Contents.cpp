@@ -1,0 +1,136 @@
+#include <array>
+#include <memory>
+
+#include "foundation/platform/Platform.h"
+#include "foundation/platform/windows/FileHandle.h"
+#include "foundation/platform/windows/NativePath.h"
+#include "foundation/platform/windows/TextMode.h"
+
+namespace tervix::platform {
+namespace {
+
+constexpr std::size_t kCopyBlock = 8192;
+constexpr DWORD kAttributesOfText = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN |
+                                    FILE_ATTRIBUTE_NOT_CONTENT_INDEXED | FILE_ATTRIBUTE_SYSTEM;
+
+bool copyContents(const FileHandle& source, const FileHandle& target) {
+  std::array<char, kCopyBlock> block{};
+  for (;;) {
+    const auto count = source.read(block.data(), block.size());
+    if (!count)
+      return false;
+    if (*count == 0)
+      return true;
+    if (!target.write({block.data(), *count}))
+      return false;
+  }
+}
+
+// Opens the target of a copy without touching its content yet: nothing is lost when it turns out
+// to be the source itself, or no file.
+bool openTarget(FileHandle& target, const char* path, const FileStatus& source) {
+  const bool isReadOnly = hasAttribute(source, FILE_ATTRIBUTE_READONLY);
+  const DWORD attributes = isReadOnly ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
+  const bool isNew = target.open(path, GENERIC_WRITE, CREATE_NEW, attributes);
+  if (!isNew && !target.open(path, GENERIC_WRITE, OPEN_ALWAYS, attributes))
+    return false;
+  const auto status = target.status();
+  if (!isRegularFile(status) || isSameEntry(status, source))
+    return false;
+  return isNew || target.truncate();
+}
+
+// The file itself where path is a link to it.
+std::string linkResolved(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  const bool isLink =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  FileHandle file;
+  if (!isLink || !file.openForStatus(path.c_str()))
+    return path;
+  return file.finalPath().value_or(path);
+}
+
+bool writeNewFile(const std::string& path, std::string_view content, DWORD attributes) {
+  FileHandle file;
+  if (!file.open(path.c_str(), GENERIC_WRITE, CREATE_NEW, attributes))
+    return false;
+  const bool isWritten = file.write(content);
+  if (file.close() && isWritten)
+    return true;
+  DeleteFileA(path.c_str());
+  return false;
+}
+
+// The attributes that new content for the file takes over; none when it may not be written. That
+// the new content comes as another file must not get round a protection of the old one.
+std::optional<DWORD> attributesToKeep(const std::string& path) {
+  if (!isTaken(path))
+    return FILE_ATTRIBUTE_NORMAL;
+  FileHandle file;
+  if (!file.open(path.c_str(), GENERIC_WRITE, OPEN_EXISTING))
+    return std::nullopt;
+  const auto status = file.status();
+  if (!isRegularFile(status))
+    return std::nullopt;
+  return status->dwFileAttributes & kAttributesOfText;
+}
+
+} // namespace
+
+bool copyFile(const std::string& source, const std::string& target) {
+  FileHandle from;
+  if (!from.open(NativePath(source).get(), GENERIC_READ, OPEN_EXISTING))
+    return false;
+  const auto status = from.status();
+  if (!isRegularFile(status))
+    return false;
+  FileHandle to;
+  return openTarget(to, NativePath(target).get(), *status) && copyContents(from, to) && to.close();
+}
+
+std::string unusedNameBeside(const std::string& path) {
+  const NativePath native(path);
+  const std::string folder = native.text().substr(0, native.text().find_last_of("\\:") + 1);
+  const std::string stem = folder + ".tervix-" + std::to_string(GetCurrentProcessId());
+  std::string name = stem;
+  for (int attempt = 1; isTaken(name); ++attempt)
+    name = stem + "-" + std::to_string(attempt);
+  return name;
+}
+
+bool replaceFile(const std::string& path, std::string_view content) {
+  const std::string file = linkResolved(NativePath(path).text());
+  const auto attributes = attributesToKeep(file);
+  if (!attributes)
+    return false;
+  const std::string written = unusedNameBeside(file);
+  if (!writeNewFile(written, withDiskLineEnds(content), *attributes))
+    return false;
+  if (MoveFileExA(written.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING) != 0)
+    return true;
+  DeleteFileA(written.c_str());
+  return false;
+}
+
+struct FileReader::Handle {
+  FileHandle file;
+  TextReader<FileHandle> text{file};
+};
+
+FileReader::FileReader() : handle_(std::make_unique<Handle>()) {}
+FileReader::~FileReader() = default;
+
+FileReader::Opening FileReader::open(const std::string& path) {
+  FileHandle& file = handle_->file;
+  if (file.open(NativePath(path).get(), GENERIC_READ, OPEN_EXISTING))
+    return isRegularFile(file.status()) ? Opening::kOpened : Opening::kNoReadableFile;
+  const bool isForbidden = GetLastError() == ERROR_ACCESS_DENIED;
+  return !isForbidden && isReadableFile(path) ? Opening::kFailed : Opening::kNoReadableFile;
+}
+
+std::optional<std::size_t> FileReader::read(char* buffer, std::size_t size) {
+  return handle_->text.read(buffer, size);
+}
+
+} // namespace tervix::platform
