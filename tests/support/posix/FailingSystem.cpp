@@ -84,8 +84,10 @@ SeparateDevice::~SeparateDevice() {
 
 UnprivilegedUser::UnprivilegedUser() : wasRoot_(geteuid() == 0) {
   constexpr uid_t kNobody = 65534;
-  if (wasRoot_)
-    EXPECT_EQ(setresuid(kNobody, kNobody, 0) == 0 || errno == EINVAL, true);
+  if (wasRoot_) {
+    const bool changed = setresuid(kNobody, kNobody, 0) == 0;
+    EXPECT_TRUE(changed || errno == EINVAL);
+  }
 }
 
 UnprivilegedUser::~UnprivilegedUser() {

@@ -1,0 +1,15 @@
+#include <list>
+#include <string>
+
+// A stand-in for the design reader, built several times: STUB_ENTRY is the name of its entry
+// point, STUB_ENDING how that ends.
+
+extern "C" __attribute__((visibility("default"))) int
+STUB_ENTRY(const std::string& designPath, std::string& root, std::list<std::string>& schematics);
+
+int STUB_ENTRY(const std::string& /*designPath*/, std::string& root,
+               std::list<std::string>& schematics) {
+  schematics.emplace_back("STUB");
+  root = "STUB";
+  STUB_ENDING;
+}
