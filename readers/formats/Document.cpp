@@ -47,6 +47,9 @@ std::string quoted(std::string_view name) {
 
 Document::Document(std::string file) : file_(std::move(file)), sections_(parseFile(file_)) {}
 
+Document::Document(std::string file, std::string_view text)
+    : file_(std::move(file)), sections_(parseText(file_, text)) {}
+
 std::list<std::string> Document::list(std::string_view section, std::string_view item,
                                       std::string_view what) const {
   std::list<std::string> texts;

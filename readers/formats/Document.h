@@ -15,6 +15,7 @@ namespace tervix::formats {
 class Document {
 public:
   explicit Document(std::string file);
+  Document(std::string file, std::string_view text);
 
   // `what` names in the plural what the list holds, for the mistake's text.
   std::list<std::string> list(std::string_view section, std::string_view item,

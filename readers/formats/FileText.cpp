@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <string_view>
 
 namespace tervix::formats {
 
@@ -63,7 +62,7 @@ std::string readToEnd(const std::string& file, std::istream& stream) {
 
 } // namespace
 
-std::string readFileText(const std::string& file) {
+std::string readFileBytes(const std::string& file) {
   requireRegularFile(file);
   std::error_code error;
   const std::uintmax_t size = fs::file_size(file, error);
@@ -74,11 +73,18 @@ std::string readFileText(const std::string& file) {
   if (!stream) {
     refuse(file, "the file cannot be opened for reading");
   }
-  std::string text = readToEnd(file, stream);
-  if (text.compare(0, byteOrderMark.size(), byteOrderMark) == 0) {
-    text.erase(0, byteOrderMark.size());
+  return readToEnd(file, stream);
+}
+
+void requireUnchanged(const std::string& file, std::string_view bytes) {
+  if (readFileBytes(file) != bytes) {
+    refuse(file, "the file has been changed meanwhile by another program");
   }
-  return text;
+}
+
+std::string_view withoutByteOrderMark(std::string_view text) {
+  const bool marked = text.substr(0, byteOrderMark.size()) == byteOrderMark;
+  return marked ? text.substr(byteOrderMark.size()) : text;
 }
 
 } // namespace tervix::formats

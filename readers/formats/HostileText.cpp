@@ -1,6 +1,8 @@
 #include "HostileText.h"
 
 #include "Mistake.h"
+#include "QuotedText.h"
+#include "Utf8.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,10 +12,6 @@ namespace tervix::formats {
 namespace {
 
 constexpr int mostDotsInKey = 32;
-
-bool startsCharacter(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
 
 [[noreturn]] void refuseAt(std::size_t offset, std::string_view text, const std::string& file,
                            const char* reason) {
@@ -39,7 +37,7 @@ public:
     while (at_ < text_.size()) {
       const char c = text_[at_];
       if (c == '"' || c == '\'') {
-        skipQuoted(c);
+        at_ = endOfQuoted(text_, at_);
         continue;
       }
       if (c == '#') {
@@ -58,25 +56,6 @@ public:
   }
 
 private:
-  void skipQuoted(char quote) {
-    const std::string fence(3, quote);
-    const bool multiLine = text_.compare(at_, fence.size(), fence) == 0;
-    const std::string_view end = multiLine ? std::string_view(fence) : std::string_view(&quote, 1);
-    at_ += end.size();
-    while (at_ < text_.size() && text_.compare(at_, end.size(), end) != 0) {
-      if (text_[at_] == '\n' && !multiLine) {
-        return;
-      }
-      at_ += quote == '"' && text_[at_] == '\\' ? 2U : 1U;
-    }
-    at_ += end.size();
-    // Up to two quotes right before the closing three belong to the text.
-    for (int extra = 0; multiLine && extra < 2 && at_ < text_.size() && text_[at_] == quote;
-         ++extra) {
-      ++at_;
-    }
-  }
-
   std::string_view text_;
   std::size_t at_ = 0;
 };

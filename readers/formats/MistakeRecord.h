@@ -12,8 +12,8 @@ void forgetMistake() noexcept;
 void rememberMistake(Mistake mistake) noexcept;
 void rememberMistake(const std::string& file, const char* text) noexcept;
 
-// Runs a read that throws a Mistake where it has to give up. Callers across the library's border
-// see no exception of any kind, only that nothing was read.
+// Runs a read or an edit that throws a Mistake where it has to give up. Callers across the
+// library's border see no exception of any kind, only that nothing was read.
 template <typename Read>
 auto rememberingMistakes(const std::string& file, Read read) noexcept
     -> std::optional<decltype(read())> {
@@ -25,7 +25,7 @@ auto rememberingMistakes(const std::string& file, Read read) noexcept
   } catch (const std::bad_alloc&) {
     rememberMistake(file, "out of memory");
   } catch (...) {
-    rememberMistake(file, "the file cannot be read");
+    rememberMistake(file, "the file cannot be handled");
   }
   return std::nullopt;
 }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <utility>
 
 namespace tervix::formats {
@@ -48,9 +47,13 @@ std::string explain(std::string_view description) {
 } // namespace
 
 toml::table parseFile(const std::string& file) {
-  const std::string text = readFileText(file);
-  refuseHostileText(file, text);
-  toml::parse_result result = toml::parse(text);
+  return parseText(file, readFileBytes(file));
+}
+
+toml::table parseText(const std::string& file, std::string_view text) {
+  const std::string_view content = withoutByteOrderMark(text);
+  refuseHostileText(file, content);
+  toml::parse_result result = toml::parse(content);
   if (!result) {
     const toml::parse_error& error = result.error();
     const toml::source_position place = error.source().begin;

@@ -1,11 +1,13 @@
 // Reads during which one memory allocation fails, each in turn.
 
 #include "DesignReader.h"
+#include "EditableFile.h"
 #include "ReaderFixture.h"
 
 #include <cstdlib>
 #include <functional>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -88,6 +90,51 @@ TEST_F(OutOfMemoryTest, DesignReadsFailCleanly) {
   const DesignReader reader;
   EXPECT_GT(failEachAllocation([&] { return reader.read(design, text, files); }), 10);
   EXPECT_EQ(files.size(), 3U);
+}
+
+using tervix::formats::EditableFile;
+
+TEST_F(OutOfMemoryTest, EditsFailCleanly) {
+  const std::string before = "[Design]\nFiles = [\n  'a file name that is not a short one',\n]\n";
+  const std::string project = folder.write("a project with a name that needs memory.tvp", before);
+  const std::vector<std::function<bool(EditableFile&)>> edits = {
+      [](EditableFile& file) { return file.addToList("Design", "Files", "b"); },
+      [](EditableFile& file) { return file.addToList("Tervix Resources", "Model Libraries", "b"); },
+      [](EditableFile& file) { return file.setText("Design", "Root", "TOP"); },
+      [](EditableFile& file) { return file.removeElement("Design", "Files", 0); },
+      [](EditableFile& file) { return file.replaceElement("Design", "Files", 0, "b"); },
+  };
+  for (const auto& edit : edits) {
+    auto file = EditableFile::open(project);
+    ASSERT_TRUE(file);
+    const auto attempt = [&] {
+      EXPECT_EQ(file->text(), before);
+      return edit(*file) ? 0 : 1;
+    };
+    EXPECT_GT(failEachAllocation(attempt), 10);
+    EXPECT_NE(file->text(), before);
+  }
+}
+
+TEST_F(OutOfMemoryTest, OpeningAndSavingFailCleanly) {
+  const std::string before = "# a comment that needs memory, as do most\n[s]\na = 1\n";
+  const std::string project = folder.write("a project with a name that needs memory.tvp", before);
+  std::optional<EditableFile> file;
+  const auto open = [&] {
+    file = EditableFile::open(project);
+    return file ? 0 : 1;
+  };
+  EXPECT_GT(failEachAllocation(open), 10);
+  ASSERT_TRUE(file->setText("s", "b", "2"));
+  const auto save = [&] {
+    const bool saved = file->save();
+    const long left = std::exchange(allocationsLeft, -1);
+    const std::string expected = saved ? file->text() : before;
+    EXPECT_EQ(std::filesystem::file_size(project), expected.size());
+    allocationsLeft = left;
+    return saved ? 0 : 1;
+  };
+  EXPECT_GT(failEachAllocation(save), 5);
 }
 
 TEST_F(OutOfMemoryTest, RefusalsStayRefusals) {
