@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <vector>
 
 #include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 
 namespace tervix::tool {
 namespace {
@@ -26,7 +28,7 @@ FileKind kindOf(const std::string& file) {
   for (const char* known : {".sim", ".aap", ".$ap"})
     if (extension == known)
       return FileKind::kProfileOrAnalysis;
-  throw Failure("\"" + file + "\" is no project: expected a .tvp, .sim, .aap or .$ap file",
+  throw Failure(inQuotes(file) + " is no project file: expected a .tvp, .sim, .aap or .$ap file",
                 kWrongUsage);
 }
 
@@ -38,31 +40,52 @@ FRONTEND_ID frontEndFor(FileKind kind, const fs::path& file, std::optional<int> 
   }
   if (chosen == 0)
     throw Failure("front end 0 opens .sim, .aap and .$ap files only", kWrongUsage);
+  const std::string folder = lowered(file.parent_path().filename().string());
+  const bool isOfFrontEnd1 = folder == "cfg_analog" || folder == "tvx_sim_1";
+  if (chosen == 1 && !isOfFrontEnd1)
+    throw Failure("front end 1 opens project files in a folder cfg_analog or tvx_sim_1 only",
+                  kWrongUsage);
   if (chosen)
     return static_cast<FRONTEND_ID>(*chosen);
-  const std::string folder = lowered(file.parent_path().filename().string());
-  return folder == "cfg_analog" || folder == "tvx_sim_1" ? FRONTEND_ID_PROJECT_FILE
-                                                         : FRONTEND_ID_DESIGN_FILE;
+  return isOfFrontEnd1 ? FRONTEND_ID_PROJECT_FILE : FRONTEND_ID_DESIGN_FILE;
+}
+
+// The full path. A ".." is followed as the system does, since the folder before it may be a link.
+fs::path fullPathOf(const std::string& file) {
+  const fs::path full = fs::absolute(file);
+  if (std::find(full.begin(), full.end(), "..") == full.end())
+    return full.lexically_normal();
+  return fs::canonical(full.parent_path()) / full.filename();
+}
+
+void requireFile(const std::string& file) {
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (status.type() == fs::file_type::not_found)
+    throw Failure(inQuotes(file) + " does not exist");
+  if (error)
+    throw Failure(inQuotes(file) + ": " + error.message());
+  if (fs::is_directory(status))
+    throw Failure(inQuotes(file) + " is a folder, not a project file");
 }
 
 } // namespace
 
-CTervixProject& openProject(const std::string& file, std::optional<int> frontEnd) {
+CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd) {
+  std::string file = path;
+  std::replace(file.begin(), file.end(), '\\', '/');
+  requireFile(file);
   const FileKind kind = kindOf(file);
-  std::error_code error;
-  if (fs::is_directory(file, error))
-    throw Failure("\"" + file + "\" is a folder, not a project");
-  if (!fs::exists(file, error))
-    throw Failure("\"" + file + "\" does not exist");
-  const fs::path full = fs::absolute(file).lexically_normal();
-  static CTervixProject* project = nullptr;
-  project = new CTervixProject(full.generic_string().c_str(), frontEndFor(kind, full, frontEnd),
-                               false, nullptr);
+  const fs::path full = fullPathOf(file);
+  static auto& projects = *new std::vector<CTervixProject*>;
+  auto* const project = new CTervixProject(full.generic_string().c_str(),
+                                           frontEndFor(kind, full, frontEnd), false, nullptr);
+  projects.push_back(project);
   if (const unsigned long status = project->initialize(); status != 0)
-    throw libraryFailure(status, "\"" + file + "\" could not be opened as a project");
-  std::string path;
-  if (project->getPath(path) != 0)
-    throw Failure("no project file was found for \"" + file + "\"");
+    throw libraryFailure(status, inQuotes(file) + " could not be opened as a project");
+  std::string projectFile;
+  if (project->getPath(projectFile) != 0)
+    throw failureWithLastError("no project file (.tvp) was found for " + inQuotes(file));
   return *project;
 }
 

@@ -9,10 +9,10 @@ namespace tervix::tool {
 
 // Opens the project of a ".tvp", ".sim", ".aap" or ".$ap" file. The front end follows from the
 // path unless it is given: 1 for a project file in "cfg_analog" or "tvx_sim_1", otherwise 2; 0 for
-// a profile or analysis file.
+// a profile or analysis file. A backslash in the path is a separator, as it is to the library.
 //
 // The project lives as long as the program and is never destroyed: destroying a profile saves its
 // include list, and a command that only reads must not write.
-CTervixProject& openProject(const std::string& file, std::optional<int> frontEnd);
+CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd);
 
 } // namespace tervix::tool

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tools/tervix/Printable.h"
+
 namespace tervix::tool {
 namespace {
 
@@ -24,6 +26,10 @@ Json jsonOfFile(const FileView& file) {
 
 Json jsonOfVariant(const FileView& file) {
   return {{"kind", file.kind}, {"name", file.path}, {"path", file.place}, {"exists", file.exists}};
+}
+
+Json jsonOfNamedFile(const FileView& file) {
+  return {{"name", file.path}, {"path", file.place}, {"exists", file.exists}};
 }
 
 Json jsonOfProfile(const ProfileView& profile) {
@@ -49,28 +55,32 @@ Json jsonOfSchematic(const SchematicView& schematic) {
 Json jsonOfDesign(const ProjectView& project) {
   if (!project.hasDesign)
     return nullptr;
+  // For front end 1 the design is a name and no file.
+  const bool isFile = project.frontEnd == FRONTEND_ID_DESIGN_FILE;
   return {{"name", project.designName},
-          {"path", project.design.place},
-          {"exists", project.design.exists}};
+          {"path", isFile ? Json(project.design.place) : Json()},
+          {"exists", isFile && project.design.exists}};
 }
 
 } // namespace
 
 std::string jsonOf(const ProjectView& project) {
-  const Json json = {{"version", kShapeVersion},
-                     {"name", project.name},
-                     {"path", project.path},
-                     {"folder", project.folder},
-                     {"projectType", project.type},
-                     {"frontEnd", project.frontEnd},
-                     {"design", jsonOfDesign(project)},
-                     {"outputFile", project.outputFile},
-                     {"rootSchematic", project.rootSchematic},
-                     {"activeProfile", project.activeProfile},
-                     {"designLevelFiles", arrayOf(project.variants, jsonOfVariant)},
-                     {"schematics", arrayOf(project.schematics, jsonOfSchematic)}};
+  const Json json = {
+      {"version", kShapeVersion},
+      {"name", project.name},
+      {"path", project.path},
+      {"folder", project.folder},
+      {"projectType", project.type},
+      {"frontEnd", project.frontEnd},
+      {"design", jsonOfDesign(project)},
+      {"outputFile", project.outputFile ? jsonOfNamedFile(*project.outputFile) : Json()},
+      {"rootSchematic", project.rootSchematic},
+      {"activeProfile", project.activeProfile},
+      {"designLevelFiles", arrayOf(project.variants, jsonOfVariant)},
+      {"schematics", arrayOf(project.schematics, jsonOfSchematic)},
+      {"missingProfiles", arrayOf(project.missingProfiles, jsonOfNamedFile)}};
   // A name may hold any bytes; those that are no UTF-8 are replaced.
-  return json.dump(2, ' ', false, Json::error_handler_t::replace);
+  return withControlsEscaped(json.dump(2, ' ', false, Json::error_handler_t::replace));
 }
 
 } // namespace tervix::tool

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "tools/tervix/Printable.h"
+
 namespace tervix::tool {
 namespace {
 
@@ -19,11 +21,15 @@ public:
     Branch top{headingOf(project_.name) + style_.faint("  " + kindOfProject()), {}};
     top.below.push_back({"project file  " + shown(project_.path), {}});
     top.below.push_back({"design        " + design(), {}});
-    if (!project_.outputFile.empty())
-      top.below.push_back({"output file   " + shown(project_.outputFile), {}});
+    if (project_.outputFile)
+      top.below.push_back({"output file   " + printable(project_.outputFile->path) +
+                               missingMark(!project_.outputFile->exists),
+                           {}});
     appendVariants(top, "design-level files", project_.variants);
     for (const SchematicView& schematic : project_.schematics)
       top.below.push_back(branchOf(schematic));
+    for (const FileView& file : project_.missingProfiles)
+      top.below.push_back({"profile file  " + printable(file.path) + missingMark(true), {}});
     return top;
   }
 
@@ -31,18 +37,18 @@ private:
   std::string headingOf(const std::string& name) const { return style_.heading(printable(name)); }
 
   std::string kindOfProject() const {
-    std::string kind = "project";
+    std::string kind = "project of type " + std::to_string(project_.type);
     if (project_.type == PROJECT_TYPE_SIMULATION)
-      kind += ", a folder for each profile";
+      kind += " (a folder for each profile)";
     else if (project_.type == PROJECT_TYPE_OTHER)
-      kind += ", files beside the schematic";
+      kind += " (files beside the schematic)";
     return kind + ", front end " + std::to_string(project_.frontEnd);
   }
 
   // For front end 1 the design is a name and no file.
   std::string design() const {
     if (!project_.hasDesign)
-      return style_.problem("none");
+      return style_.problem("none") + "  (the project file lists no .dsn file that exists)";
     std::string name = style_.heading(printable(project_.designName));
     if (project_.frontEnd != FRONTEND_ID_DESIGN_FILE)
       return name;

@@ -2,6 +2,10 @@
 
 #include <array>
 #include <filesystem>
+#include <list>
+#include <utility>
+
+#include <tvx_wobj.h>
 
 #include "model/FileSuffixes.h"
 
@@ -13,6 +17,10 @@ namespace fs = std::filesystem;
 constexpr std::array<VARIANTFILE_TYPE, 3> kVariantTypes = {
     VARIANTFILE_TYPE_LIBRARY, VARIANTFILE_TYPE_STIMULUS, VARIANTFILE_TYPE_INCLUDE};
 constexpr std::array<const char*, 3> kVariantNames = {"library", "stimulus", "include"};
+
+const char* nameOf(VARIANTFILE_TYPE type) {
+  return kVariantNames.at(static_cast<std::size_t>(type));
+}
 
 // Reads one text of a node through its getter; empty when it is not set.
 template <class Object, class Getter> std::string textOf(Object& object, Getter getter) {
@@ -35,8 +43,7 @@ FileView namedFile(const std::string& kind, const std::string& path, const std::
     c = c == '\\' ? '/' : c;
   const bool hasDrive = forward.size() > 1 && forward[1] == ':';
   const fs::path place = hasDrive ? fs::path(forward) : fs::path(folder) / forward;
-  const std::string full = place.lexically_normal().generic_string();
-  return {kind, path, full, isFile(full)};
+  return {kind, path, place.lexically_normal().generic_string(), isFile(place.generic_string())};
 }
 
 ProfileView viewOf(CTervixProfile& profile) {
@@ -53,7 +60,7 @@ ProfileView viewOf(CTervixProfile& profile) {
     std::string file;
     profile.getTopProfileLevelFile(file, type);
     for (; !file.empty(); profile.getNextProfileLevelFile(file, type))
-      view.variants.push_back(namedFile(kVariantNames.at(type), file, view.folder));
+      view.variants.push_back(namedFile(nameOf(type), file, view.folder));
   }
   for (std::size_t type = 0; type < kProfileFileSuffixes.size(); ++type) {
     std::string file;
@@ -80,6 +87,21 @@ SchematicView viewOf(CTervixSchematic& schematic) {
   return view;
 }
 
+// The profile files that the project file lists and that the library, as they are not there, passed
+// over.
+std::vector<FileView> missingProfiles(const std::string& projectFile, const std::string& folder) {
+  std::list<std::string> listed;
+  std::list<std::string> unused;
+  std::string active;
+  std::vector<FileView> missing;
+  if (readSimProfiles(projectFile, listed, unused, active, true) != 0)
+    return missing;
+  for (const std::string& path : listed)
+    if (FileView file = namedFile("sim", path, folder); !file.exists)
+      missing.push_back(std::move(file));
+  return missing;
+}
+
 } // namespace
 
 ProjectView viewOf(CTervixProject& project) {
@@ -92,19 +114,22 @@ ProjectView viewOf(CTervixProject& project) {
   view.designName = textOf(project, &CTervixProject::getDesignName);
   view.hasDesign = !view.designName.empty();
   view.design = namedFile("design", textOf(project, &CTervixProject::getDesignPath), view.folder);
-  view.outputFile = textOf(project, &CTervixProject::getTervixOutputFile);
+  if (const std::string file = textOf(project, &CTervixProject::getTervixOutputFile); !file.empty())
+    view.outputFile = namedFile("output", file, view.folder);
   project.getRootSchematic(view.rootSchematic);
   project.getActiveProfile(view.activeProfile);
   for (const VARIANTFILE_TYPE type : kVariantTypes) {
     std::string file;
     project.getTopDesignLevelFile(file, type);
     for (; !file.empty(); project.getNextDesignLevelFile(file, type))
-      view.variants.push_back(namedFile(kVariantNames.at(type), file, view.folder));
+      view.variants.push_back(namedFile(nameOf(type), file, view.folder));
   }
   CTervixNode* schematic = nullptr;
   project.getTopSchematic(schematic);
   for (; schematic != nullptr; project.getNextSchematic(schematic))
     view.schematics.push_back(viewOf(static_cast<CTervixSchematic&>(*schematic)));
+  if (view.frontEnd == FRONTEND_ID_DESIGN_FILE)
+    view.missingProfiles = missingProfiles(view.path, view.folder);
   return view;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,11 +45,12 @@ struct ProjectView {
   bool hasDesign;
   std::string designName;
   FileView design;
-  std::string outputFile;
+  std::optional<FileView> outputFile;
   std::string rootSchematic;
   std::string activeProfile;
   std::vector<FileView> variants;
   std::vector<SchematicView> schematics;
+  std::vector<FileView> missingProfiles; // listed in the project file, but not there
 };
 
 ProjectView viewOf(CTervixProject& project);

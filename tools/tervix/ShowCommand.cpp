@@ -36,12 +36,15 @@ void show(const ShowOptions& options) {
 void addShowCommand(CLI::App& app) {
   auto options = std::make_shared<ShowOptions>();
   CLI::App* command = app.add_subcommand("show", "Open a project and print its tree");
-  command->add_option("FILE", options->file, "A .tvp, .sim, .aap or .$ap file")->required();
+  command->add_option("FILE", options->file, "A .tvp, .sim, .aap or .$ap file")
+      ->required()
+      ->type_name("");
   command
       ->add_option("--front-end", options->frontEnd,
                    "0 for .sim and .aap files; 1 or 2 for a .tvp file, chosen from its folder "
                    "unless given")
-      ->check(CLI::Range(0, 2));
+      ->check(CLI::Range(0, 2))
+      ->option_text("N");
   command->add_flag("--json", options->asJson, "Print JSON instead of a tree");
   command->callback([options] { show(*options); });
 }

@@ -20,8 +20,4 @@ private:
   bool colours_;
 };
 
-// text with its control characters spelt out, so that a strange file name cannot drive the
-// terminal.
-std::string printable(const std::string& text);
-
 } // namespace tervix::tool

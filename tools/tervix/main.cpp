@@ -1,16 +1,52 @@
 #include <exception>
 #include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
 #include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 #include "tools/tervix/ShowCommand.h"
+#include "tools/tervix/commands/ProfileCommand.h"
 
 namespace {
 
 using namespace tervix::tool;
+
+void finishOutput() {
+  std::cout.flush();
+  if (!std::cout)
+    throw Failure("the output could not be written");
+}
+
+// Printable but for its line ends: what is told of wrong usage repeats what the person typed.
+std::string printableLines(const std::string& text) {
+  std::string result;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);)
+    result += printable(line) + "\n";
+  return result;
+}
+
+// Help and version come this way too; they are no mistake.
+int answer(const CLI::App& app, const CLI::ParseError& error) {
+  std::ostringstream mistake;
+  if (app.exit(error, std::cout, mistake) == 0) {
+    finishOutput();
+    return kDone;
+  }
+  const std::vector<std::string> unknown = app.remaining();
+  if (app.get_subcommands().empty() && !unknown.empty() && unknown.front().rfind('-', 0) != 0)
+    throw Failure("there is no command " + inQuotes(unknown.front()) +
+                      "\nRun with --help for more information.",
+                  kWrongUsage);
+  std::cerr << "tervix: " << printableLines(mistake.str());
+  return kWrongUsage;
+}
 
 int run(int argc, char** argv) {
   CLI::App app("Look into and change circuit-simulation projects", "tervix");
@@ -18,15 +54,13 @@ int run(int argc, char** argv) {
   app.require_subcommand(1);
   app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
   addShowCommand(app);
+  addProfileCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    // Help and version come this way too, with status 0.
-    return app.exit(error) == 0 ? kDone : kWrongUsage;
+    return answer(app, error);
   }
-  std::cout.flush();
-  if (!std::cout)
-    throw Failure("the output could not be written");
+  finishOutput();
   return kDone;
 }
 
@@ -39,7 +73,7 @@ int main(int argc, char** argv) {
     std::cerr << "tervix: " << failure.what() << "\n";
     return failure.status();
   } catch (const std::exception& error) {
-    std::cerr << "tervix: " << error.what() << "\n";
+    std::cerr << "tervix: " << printable(error.what()) << "\n";
     return kFailed;
   }
 }

@@ -1,0 +1,144 @@
+#include <filesystem>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "CTervixProject.h"
+#include "tests/tools/Sample.h"
+#include "tests/tools/ToolRun.h"
+
+using namespace tervix::testing;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// All of an entry that writing to it, or replacing it, would change.
+struct Entry {
+  ino_t number;
+  mode_t mode;
+  std::string written;
+  std::string changed;
+  std::string content;
+
+  friend bool operator==(const Entry& a, const Entry& b) {
+    return a.number == b.number && a.mode == b.mode && a.written == b.written &&
+           a.changed == b.changed && a.content == b.content;
+  }
+};
+
+std::string textOf(const timespec& time) {
+  return std::to_string(time.tv_sec) + "." + std::to_string(time.tv_nsec);
+}
+
+Entry entryAt(const fs::path& path) {
+  struct stat info {};
+  EXPECT_EQ(lstat(path.c_str(), &info), 0) << path;
+  return {info.st_ino, info.st_mode, textOf(info.st_mtim), textOf(info.st_ctim),
+          fs::is_regular_file(path) ? contentOf(path.string()) : ""};
+}
+
+using Entries = std::map<std::string, Entry>;
+
+Entries entriesOf(const std::string& folder) {
+  Entries entries{{".", entryAt(folder)}};
+  for (const auto& entry : fs::recursive_directory_iterator(folder))
+    entries.emplace(fs::relative(entry.path(), folder).string(), entryAt(entry.path()));
+  return entries;
+}
+
+void expectUntouched(const Entries& before, const Entries& after, const std::string& when) {
+  for (const auto& [name, entry] : before) {
+    const auto found = after.find(name);
+    ASSERT_NE(found, after.end()) << name << " is gone after " << when;
+    EXPECT_EQ(found->second, entry) << name << " was written by " << when;
+  }
+  EXPECT_EQ(after.size(), before.size()) << "something was made by " << when;
+}
+
+std::vector<std::string> includeListsOf(const std::string& folder) {
+  std::vector<std::string> lists;
+  for (const auto& entry : fs::recursive_directory_iterator(folder))
+    if (entry.path().string().find("_profile.inc") != std::string::npos)
+      lists.push_back(entry.path().string());
+  return lists;
+}
+
+// A list that saving would write in another way: order, case, blanks, and a line that it drops.
+constexpr const char* kUntidyList = "* made by hand\n.stmlib \"./pulse.stl\"\n.Lib\t\"./a.lib\"\n"
+                                    ".INC \"./b.inc\"\n.inc \"UPPER.INC\"";
+// A list that saving would remove.
+constexpr const char* kEmptyList = "* no entries\n";
+
+class ReadSample : public ::testing::TestWithParam<Sample> {
+protected:
+  void expectUntouchedByShowing() const {
+    for (const std::string& file : copy_.openable())
+      for (const Arguments& options : {Arguments{}, {"--json"}, {"--front-end", "1"}}) {
+        Arguments arguments = {"show", file};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const Entries before = entriesOf(copy_.folder());
+        runTool(arguments);
+        expectUntouched(before, entriesOf(copy_.folder()), file);
+      }
+  }
+
+  void writeLists(const char* content) const {
+    for (const std::string& list : includeListsOf(copy_.folder()))
+      writeFile(list, content);
+  }
+
+  SampleCopy copy_{GetParam()};
+};
+
+TEST_P(ReadSample, StaysAsItIs) {
+  expectUntouchedByShowing();
+}
+
+TEST_P(ReadSample, KeepsIncludeListsThatSavingWouldRewrite) {
+  writeLists(kUntidyList);
+  expectUntouchedByShowing();
+}
+
+TEST_P(ReadSample, KeepsIncludeListsThatSavingWouldRemove) {
+  writeLists(kEmptyList);
+  expectUntouchedByShowing();
+}
+
+TEST_P(ReadSample, StaysAsItIsWhenItCannotBeOpened) {
+  writeLists(kUntidyList);
+  writeFile(copy_.project(), "[\"Design Resources\"\n");
+  expectUntouchedByShowing();
+}
+
+TEST_P(ReadSample, StaysAsItIsWhenNothingCanBePrinted) {
+  writeLists(kUntidyList);
+  RunOptions options;
+  options.output = Output::kFullDevice;
+  const Entries before = entriesOf(copy_.folder());
+  EXPECT_EQ(runTool({"show", copy_.project()}, options).status, 1);
+  expectUntouched(before, entriesOf(copy_.folder()), "printing");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ReadSample, ::testing::ValuesIn(allSamples()),
+                         [](const auto& sample) {
+                           std::string name = sample.param.name;
+                           name.replace(name.find('-'), 1, "_");
+                           return name;
+                         });
+
+// What the tests above guard against: a program that lets go of a project's profiles saves them.
+// (A project of front end 1, which this program can open without the design reader.)
+TEST(DestroyedProfile, WritesItsIncludeList) {
+  const SampleCopy copy(allSamples().at(2));
+  for (const std::string& list : includeListsOf(copy.folder()))
+    writeFile(list, kUntidyList);
+  const Entries before = entriesOf(copy.folder());
+  CTervixProject project(copy.project().c_str(), FRONTEND_ID_PROJECT_FILE, false, nullptr);
+  ASSERT_EQ(project.initialize(), 0U);
+  std::string schematic = "amp";
+  ASSERT_EQ(project.deleteSchematic(schematic), 0U);
+  EXPECT_FALSE(entriesOf(copy.folder()) == before);
+}
+
+} // namespace

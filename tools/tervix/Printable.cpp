@@ -1,0 +1,76 @@
+#include "tools/tervix/Printable.h"
+
+namespace tervix::tool {
+namespace {
+
+constexpr unsigned char kFirstPrintable = 0x20;
+constexpr unsigned char kDelete = 0x7f;
+
+unsigned char byteAt(std::string_view text, std::size_t at) {
+  return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
+}
+
+// The second of the two groups of control characters, U+0080 to U+009F, is two bytes each.
+bool isSecondGroupControl(std::string_view text, std::size_t at) {
+  return byteAt(text, at) == 0xc2 && byteAt(text, at + 1) >= 0x80 && byteAt(text, at + 1) < 0xa0;
+}
+
+// How many bytes the UTF-8 character at a place has; 0 when there is none.
+std::size_t characterLength(std::string_view text, std::size_t at) {
+  const unsigned char lead = byteAt(text, at);
+  if (lead < 0x80)
+    return 1;
+  if (lead < 0xc2 || lead > 0xf4)
+    return 0;
+  const std::size_t length = lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : 4;
+  for (std::size_t next = 1; next < length; ++next)
+    if ((byteAt(text, at + next) & 0xc0U) != 0x80)
+      return 0;
+  return length;
+}
+
+bool isPrintable(std::string_view text, std::size_t at) {
+  const unsigned char byte = byteAt(text, at);
+  return byte >= kFirstPrintable && byte != kDelete && characterLength(text, at) != 0 &&
+         !isSecondGroupControl(text, at);
+}
+
+std::string hexOf(unsigned char byte) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  return {kDigits[byte >> 4U], kDigits[byte & 0xfU]};
+}
+
+} // namespace
+
+std::string printable(std::string_view text) {
+  std::string result;
+  for (std::size_t at = 0; at < text.size();) {
+    if (isPrintable(text, at)) {
+      const std::size_t length = characterLength(text, at);
+      result += text.substr(at, length);
+      at += length;
+    } else {
+      result += "\\x" + hexOf(byteAt(text, at++));
+    }
+  }
+  return result;
+}
+
+std::string inQuotes(std::string_view text) {
+  return "\"" + printable(text) + "\"";
+}
+
+std::string withControlsEscaped(const std::string& json) {
+  std::string result;
+  for (std::size_t at = 0; at < json.size(); ++at) {
+    if (isSecondGroupControl(json, at))
+      result += "\\u00" + hexOf(byteAt(json, ++at));
+    else if (byteAt(json, at) == kDelete)
+      result += "\\u00" + hexOf(kDelete);
+    else
+      result += json[at];
+  }
+  return result;
+}
+
+} // namespace tervix::tool

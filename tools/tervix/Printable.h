@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tervix::tool {
+
+// text with its control characters and the bytes that are no UTF-8 spelt out (as \x1b), so that a
+// strange file name cannot drive the terminal.
+std::string printable(std::string_view text);
+
+// text as a person's message names a file: printable and between quotes.
+std::string inQuotes(std::string_view text);
+
+// JSON text with the control characters escaped that JSON allows as they are.
+std::string withControlsEscaped(const std::string& json);
+
+} // namespace tervix::tool

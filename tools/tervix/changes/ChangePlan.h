@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tervix::tool {
+
+// What a command is going to do to the files of a project, in full before any of it is done.
+//
+// The order of the lists is the order of the work: everything new is made and checked before
+// anything that was there is rewritten, and that before anything is removed.
+struct ChangePlan {
+  // A file that comes to be: with this content, or as a copy of another file or link.
+  struct Made {
+    std::string path;
+    std::string source; // empty when only the content counts
+    std::string content;
+    bool isCopy;
+  };
+  struct Rewritten {
+    std::string path;
+    std::string content;
+  };
+
+  std::string title; // "rename profile tran to ac"
+  std::vector<std::string> madeFolders;
+  std::vector<Made> made;
+  std::vector<Rewritten> rewritten;
+  std::vector<std::string> removed;        // files and links
+  std::vector<std::string> removedFolders; // innermost first; one that holds anything stays
+
+  // The library's own operations, between what is made with content and what is copied. They may
+  // make any of the files of `made`; what they leave out is copied one by one.
+  std::vector<std::function<void()>> libraryCalls;
+
+  // Opens the project as it is to be; throws a Failure if it does not.
+  std::function<void()> check;
+
+  // The project file from which the project opens afterwards.
+  std::string projectFile;
+
+  bool isEmpty() const {
+    return madeFolders.empty() && made.empty() && rewritten.empty() && removed.empty() &&
+           removedFolders.empty();
+  }
+};
+
+} // namespace tervix::tool

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "tools/tervix/changes/PathMap.h"
+
+namespace tervix::tool {
+
+// A path as a file names it: the text, and the folder from which it counts.
+struct NamedPath {
+  std::string text;
+  std::string base;
+};
+
+// The full path that a text names, with forward slashes and without "." and "..".
+std::string placeOf(const NamedPath& named);
+
+// The text that names the same file after a change, seen from newBase, in the manner of the old
+// text: relative or full, with its kind of separators. A text that still holds stays as it is.
+std::string renamedText(const NamedPath& named, const std::string& newBase, const PathMap& map);
+
+} // namespace tervix::tool

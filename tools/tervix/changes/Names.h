@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace tervix::tool {
+
+// Throws a Failure for a name that a design, schematic, profile or project cannot have: an empty
+// one, one with a separator, a dot or a control character, or one that some file system cannot
+// hold. what is the thing to be named, such as "profile".
+void requireUsableName(const std::string& name, const char* what);
+
+// Whether two names are the same to a file system that ignores case.
+bool isSameName(const std::string& a, const std::string& b);
+
+} // namespace tervix::tool

@@ -1,0 +1,130 @@
+#include "tools/tervix/changes/OpenFormats.h"
+
+#include <array>
+
+#include "readers/formats/Mistake.h"
+#include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/Names.h"
+
+namespace tervix::tool {
+namespace {
+
+constexpr const char* kDesign = "Design";
+constexpr const char* kSchematics = "Schematics";
+constexpr const char* kRoot = "Root";
+constexpr const char* kFiles = "Files";
+constexpr const char* kProfiles = "Simulation Profiles";
+constexpr const char* kActive = "Active";
+constexpr const char* kDesignResources = "Design Resources";
+constexpr const char* kOutputFile = "TERVIX_Output_File";
+
+struct PathList {
+  const char* section;
+  const char* item;
+};
+
+// Every list of files in a project file.
+constexpr std::array<PathList, 5> kPathLists = {{{kDesignResources, kFiles},
+                                                 {"Tervix Resources", "Model Libraries"},
+                                                 {"Tervix Resources", "Stimulus Files"},
+                                                 {"Tervix Resources", "Include Files"},
+                                                 {kProfiles, kFiles}}};
+
+Failure unreadable(const std::string& path) {
+  const auto mistake = formats::lastMistake();
+  return Failure(inQuotes(path) + " could not be changed" +
+                 (mistake ? ": " + mistake->text : std::string()));
+}
+
+formats::EditableFile opened(const std::string& path) {
+  auto file = formats::EditableFile::open(path);
+  if (!file)
+    throw unreadable(path);
+  return std::move(*file);
+}
+
+} // namespace
+
+OpenFormatFile::OpenFormatFile(const std::string& path) : path_(path), file_(opened(path)) {}
+
+void OpenFormatFile::require(bool done) const {
+  if (!done)
+    throw unreadable(path_);
+}
+
+std::vector<std::string> OpenFormatFile::list(const char* section, const char* item) const {
+  const auto elements = file_.elementsOf(section, item);
+  require(elements.has_value());
+  return *elements;
+}
+
+void OpenFormatFile::replaceAll(const char* section, const char* item,
+                                const std::function<std::string(const std::string&)>& newText) {
+  const std::vector<std::string> elements = list(section, item);
+  for (std::size_t i = 0; i < elements.size(); ++i)
+    if (const std::string text = newText(elements[i]); text != elements[i])
+      require(file_.replaceElement(section, item, i, text));
+}
+
+void OpenFormatFile::replaceText(const char* section, const char* item,
+                                 const std::function<std::string(const std::string&)>& newText) {
+  const auto text = file_.textOf(section, item);
+  require(text.has_value());
+  // An item that is not there, or empty, names nothing.
+  if (text->empty())
+    return;
+  if (const std::string renamed = newText(*text); renamed != *text)
+    require(file_.setText(section, item, renamed));
+}
+
+void OpenFormatFile::renameSchematics(
+    const std::function<std::string(const std::string&)>& newName) {
+  replaceAll(kDesign, kSchematics, newName);
+  replaceText(kDesign, kRoot, newName);
+}
+
+void OpenFormatFile::addSchematic(const std::string& name) {
+  require(file_.addToList(kDesign, kSchematics, name));
+}
+
+void OpenFormatFile::removeSchematic(const std::string& name) {
+  require(file_.removeFromList(kDesign, kSchematics, name));
+}
+
+void OpenFormatFile::renamePaths(const std::function<std::string(const std::string&)>& newPath) {
+  for (const PathList& paths : kPathLists)
+    replaceAll(paths.section, paths.item, newPath);
+  replaceText(kDesignResources, kOutputFile, newPath);
+}
+
+void OpenFormatFile::renameActive(const std::string& displayName,
+                                  const std::string& newDisplayName) {
+  replaceText(kProfiles, kActive, [&](const std::string& active) {
+    return isSameName(active, displayName) ? newDisplayName : active;
+  });
+}
+
+void OpenFormatFile::setActive(const std::string& displayName) {
+  require(file_.setText(kProfiles, kActive, displayName));
+}
+
+void OpenFormatFile::addProfile(const std::string& file) {
+  require(file_.addToList(kProfiles, kFiles, file));
+}
+
+void OpenFormatFile::removeProfiles(const std::function<bool(const std::string&)>& matches) {
+  const std::vector<std::string> elements = list(kProfiles, kFiles);
+  for (std::size_t i = elements.size(); i-- > 0;)
+    if (matches(elements[i]))
+      require(file_.removeElement(kProfiles, kFiles, i));
+}
+
+void OpenFormatFile::addProfileLike(const std::function<bool(const std::string&)>& matches,
+                                    const std::function<std::string(const std::string&)>& newFile) {
+  for (const std::string& element : list(kProfiles, kFiles))
+    if (matches(element))
+      return addProfile(newFile(element));
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,72 @@
+#include "tools/tervix/changes/PlanPrinter.h"
+
+#include <nlohmann/json.hpp>
+
+#include "tools/tervix/Printable.h"
+
+namespace tervix::tool {
+namespace {
+
+struct Step {
+  const char* action;
+  std::string path;
+  std::string from;
+};
+
+// The steps of a plan in order; what moves is told as a move, not as a copy and a removal.
+std::vector<Step> stepsOf(const ChangePlan& plan) {
+  std::vector<Step> steps;
+  std::vector<std::string> moved;
+  const auto isRemoved = [&](const std::string& path) {
+    return std::find(plan.removed.begin(), plan.removed.end(), path) != plan.removed.end();
+  };
+  for (const std::string& folder : plan.madeFolders)
+    steps.push_back({"make folder", folder, ""});
+  for (const ChangePlan::Made& made : plan.made) {
+    if (isRemoved(made.source)) {
+      steps.push_back({made.isCopy ? "move" : "move and rewrite", made.path, made.source});
+      moved.push_back(made.source);
+    } else {
+      steps.push_back({made.source.empty() ? "make" : "copy", made.path, made.source});
+    }
+  }
+  for (const ChangePlan::Rewritten& file : plan.rewritten)
+    steps.push_back({"rewrite", file.path, ""});
+  for (const std::string& path : plan.removed)
+    if (std::find(moved.begin(), moved.end(), path) == moved.end())
+      steps.push_back({"remove", path, ""});
+  for (const std::string& folder : plan.removedFolders)
+    steps.push_back({"remove folder", folder, ""});
+  return steps;
+}
+
+} // namespace
+
+void printPlan(std::ostream& out, const ChangePlan& plan, bool done) {
+  out << printable(plan.title) << (done ? "" : " (nothing is done)") << "\n";
+  for (const Step& step : stepsOf(plan)) {
+    out << "  " << step.action << "  ";
+    if (!step.from.empty())
+      out << printable(step.from) << " -> ";
+    out << printable(step.path) << "\n";
+  }
+}
+
+void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done) {
+  using Json = nlohmann::ordered_json;
+  Json steps = Json::array();
+  for (const Step& step : stepsOf(plan)) {
+    Json json = {{"action", step.action}, {"path", step.path}};
+    if (!step.from.empty())
+      json["from"] = step.from;
+    steps.push_back(std::move(json));
+  }
+  const Json json = {{"version", 1},
+                     {"change", plan.title},
+                     {"done", done},
+                     {"project", plan.projectFile},
+                     {"steps", steps}};
+  out << json.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+}
+
+} // namespace tervix::tool

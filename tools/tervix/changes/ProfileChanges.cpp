@@ -1,0 +1,161 @@
+#include "tools/tervix/changes/ProfileChanges.h"
+
+#include <filesystem>
+
+#include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/Lookup.h"
+#include "tools/tervix/changes/NamedPath.h"
+#include "tools/tervix/changes/Names.h"
+#include "tools/tervix/changes/OpenFormats.h"
+#include "tools/tervix/changes/ProjectCheck.h"
+#include "tools/tervix/changes/ProjectLayout.h"
+#include "tools/tervix/changes/Removal.h"
+#include "tools/tervix/changes/Renaming.h"
+#include "tools/tervix/changes/SimText.h"
+
+namespace tervix::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A file as its neighbours name it: bare beside them, otherwise "./" and the way there.
+std::string seenFrom(const std::string& folder, const std::string& path) {
+  const std::string relative = fs::path(path).lexically_relative(folder).generic_string();
+  return relative.find('/') == std::string::npos || relative.rfind("../", 0) == 0 ? relative
+                                                                                  : "./" + relative;
+}
+
+// The text of a new profile's ".sim" file. A simulation project leaves to the place of the file
+// what it belongs to.
+std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
+                       const std::string& schematic, const std::string& name) {
+  const ProfilePlaces places = layout.placesOf(schematic, name);
+  const std::string folder = fs::path(places.sim).parent_path().generic_string();
+  const auto fileName = [](const std::string& path) {
+    return fs::path(path).filename().generic_string();
+  };
+  return newSim([&](SimKey key) -> std::string {
+    const bool isPlaced = layout.isSimulation();
+    switch (key) {
+    case SimKey::kProfileName:
+      return name;
+    case SimKey::kProfileFile:
+      return fileName(places.sim);
+    case SimKey::kRootSchematics:
+      return isPlaced ? "" : schematic;
+    case SimKey::kDesignFile:
+      return isPlaced ? "" : layout.hasDesignFile() ? fileName(view.design.place) : layout.design;
+    case SimKey::kProjectFile:
+      return isPlaced ? "" : fileName(layout.projectFile);
+    case SimKey::kNetlistFile:
+      return fileName(places.files[PROFILE_FILE_CIR]);
+    case SimKey::kDataFile:
+      return seenFrom(folder, places.files[PROFILE_FILE_DAT]);
+    case SimKey::kOutFile:
+      return seenFrom(folder, places.files[PROFILE_FILE_OUT]);
+    }
+    return {};
+  });
+}
+
+void checkTree(ChangePlan& plan, const ProjectLayout& layout, const ExpectedTree& expected) {
+  plan.check = [file = plan.projectFile, frontEnd = layout.frontEnd, expected] {
+    requireTree(file, frontEnd, expected);
+  };
+}
+
+} // namespace
+
+ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicName,
+                          const std::string& name) {
+  const ProjectView view = viewOf(project);
+  const ProjectLayout layout = layoutOf(project);
+  const SchematicView& schematic = schematicForNew(view, schematicName);
+  requireUsableName(name, "profile");
+  requireFreeProfileName(schematic, name, "");
+  const ProfilePlaces places = layout.placesOf(schematic.name, name);
+
+  ChangePlan plan;
+  plan.title = "add profile " + name + " to schematic " + schematic.name;
+  plan.projectFile = layout.projectFile;
+  plan.made.push_back({places.sim, "", simTextFor(layout, view, schematic.name, name), false});
+  if (layout.hasDesignFile()) {
+    OpenFormatFile file(layout.projectFile);
+    file.addProfile(seenFrom(layout.folder, places.sim));
+    plan.rewritten.push_back({layout.projectFile, file.text()});
+  }
+  ExpectedTree expected = treeOf(view);
+  expected.insert({schematic.name, name});
+  checkTree(plan, layout, expected);
+  return plan;
+}
+
+ChangePlan planProfileCopy(CTervixProject& project, const std::string& schematicName,
+                           const std::string& name, const std::string& newName) {
+  Renaming copying(project);
+  const auto [schematic, profile] = profileNamed(copying.view(), schematicName, name);
+  requireUsableName(newName, "profile");
+  requireFreeProfileName(schematic, newName, "");
+  return copying.planCopy(schematic.name, profile.name, newName,
+                          "copy profile " + profile.name + " to " + newName);
+}
+
+ChangePlan planProfileRename(CTervixProject& project, const std::string& schematicName,
+                             const std::string& name, const std::string& newName) {
+  Renaming renaming(project);
+  const auto [schematic, profile] = profileNamed(renaming.view(), schematicName, name);
+  requireUsableName(newName, "profile");
+  if (profile.name == newName)
+    throw Failure("the profile is named " + inQuotes(newName) + " already");
+  requireFreeProfileName(schematic, newName, profile.name);
+  renaming.renameProfile(schematic.name, profile.name, newName);
+  return renaming.plan("rename profile " + profile.name + " to " + newName);
+}
+
+ChangePlan planProfileDelete(CTervixProject& project, const std::string& schematicName,
+                             const std::string& name) {
+  const ProjectView view = viewOf(project);
+  const ProjectLayout layout = layoutOf(project);
+  const auto [schematic, profile] = profileNamed(view, schematicName, name);
+  ChangePlan plan;
+  plan.title = "delete profile " + profile.name + " of schematic " + schematic.name;
+  plan.projectFile = layout.projectFile;
+  removeProfileFiles(plan, layout, schematic.name, profile.name);
+  if (layout.hasDesignFile()) {
+    OpenFormatFile file(layout.projectFile);
+    file.removeProfiles([&, sim = profile.sim.place](const std::string& text) {
+      return placeOf({text, layout.folder}) == sim;
+    });
+    file.renameActive(profile.displayName, "");
+    plan.rewritten.push_back({layout.projectFile, file.text()});
+    ExpectedTree expected = treeOf(view);
+    expected.erase({schematic.name, profile.name});
+    checkTree(plan, layout, expected);
+  }
+  return plan;
+}
+
+ChangePlan planProfileActivate(CTervixProject& project, const std::string& schematicName,
+                               const std::string& name) {
+  const ProjectView view = viewOf(project);
+  const ProjectLayout layout = layoutOf(project);
+  if (!layout.hasDesignFile())
+    throw Failure("a project of front end 1 keeps no active profile");
+  const auto [schematic, profile] = profileNamed(view, schematicName, name);
+  if (!schematic.root)
+    throw Failure(inQuotes(schematic.name) +
+                  " is not the root schematic; only the root's profiles can be active");
+  ChangePlan plan;
+  plan.title = "activate profile " + profile.displayName;
+  plan.projectFile = layout.projectFile;
+  OpenFormatFile file(layout.projectFile);
+  file.setActive(profile.displayName);
+  if (file.text() != contentOf(layout.projectFile))
+    plan.rewritten.push_back({layout.projectFile, file.text()});
+  checkTree(plan, layout, treeOf(view));
+  return plan;
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "CTervixProject.h"
+
+namespace tervix::tool {
+
+// Where the files of a schematic or profile lie; files are in the order of the enumerations.
+struct SchematicPlaces {
+  std::string folder;
+  std::vector<std::string> files;
+};
+
+struct ProfilePlaces {
+  std::string sim;
+  std::string folder;
+  std::string includeList; // empty where profiles have none
+  std::string displayName; // empty where profiles have none
+  std::vector<std::string> files;
+};
+
+// The names and folders from which the place of every file of a project follows. Change a name,
+// and it tells where the files will be; no file need be there.
+struct ProjectLayout {
+  FRONTEND_ID frontEnd;
+  PROJECT_TYPE type;
+  std::string project; // the names of project and design
+  std::string design;
+  std::string projectFile;
+  std::string folder;
+  std::string designFolder;
+
+  bool isSimulation() const { return type == PROJECT_TYPE_SIMULATION; }
+  bool hasDesignFile() const { return frontEnd == FRONTEND_ID_DESIGN_FILE; }
+
+  SchematicPlaces placesOf(const std::string& schematic) const;
+  ProfilePlaces placesOf(const std::string& schematic, const std::string& profile) const;
+
+  // Where all files of a simulation project for front end 2 lie.
+  std::string filesFolder() const { return folder + "/" + project + "-TervixFiles"; }
+};
+
+ProjectLayout layoutOf(CTervixProject& project);
+
+} // namespace tervix::tool

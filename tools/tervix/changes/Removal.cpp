@@ -1,0 +1,55 @@
+#include "tools/tervix/changes/Removal.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tervix::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+void removeFile(ChangePlan& plan, const std::string& path) {
+  std::error_code error;
+  const fs::file_type type = fs::symlink_status(path, error).type();
+  const bool isThere = type != fs::file_type::not_found && type != fs::file_type::directory;
+  if (isThere && std::find(plan.removed.begin(), plan.removed.end(), path) == plan.removed.end())
+    plan.removed.push_back(path);
+}
+
+// A folder that belongs to what is removed, with all that lies in it.
+void removeFolder(ChangePlan& plan, const std::string& folder) {
+  if (!fs::is_directory(fs::symlink_status(folder)))
+    return;
+  std::vector<std::string> folders = {folder};
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    if (fs::is_directory(entry.symlink_status()))
+      folders.push_back(entry.path().generic_string());
+    else
+      removeFile(plan, entry.path().generic_string());
+  }
+  std::sort(folders.rbegin(), folders.rend());
+  plan.removedFolders.insert(plan.removedFolders.end(), folders.begin(), folders.end());
+}
+
+} // namespace
+
+void removeProfileFiles(ChangePlan& plan, const ProjectLayout& layout, const std::string& schematic,
+                        const std::string& profile) {
+  const ProfilePlaces places = layout.placesOf(schematic, profile);
+  removeFile(plan, places.sim);
+  for (const std::string& file : places.files)
+    removeFile(plan, file);
+  if (layout.isSimulation())
+    removeFolder(plan, places.folder);
+}
+
+void removeSchematicFiles(ChangePlan& plan, const ProjectLayout& layout,
+                          const std::string& schematic) {
+  const SchematicPlaces places = layout.placesOf(schematic);
+  for (const std::string& file : places.files)
+    removeFile(plan, file);
+  if (layout.isSimulation() && layout.hasDesignFile())
+    removeFolder(plan, places.folder);
+}
+
+} // namespace tervix::tool

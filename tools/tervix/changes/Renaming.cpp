@@ -1,0 +1,276 @@
+#include "tools/tervix/changes/Renaming.h"
+
+#include <filesystem>
+#include <set>
+
+#include "tools/tervix/Failure.h"
+#include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/NamedPath.h"
+#include "tools/tervix/changes/Names.h"
+#include "tools/tervix/changes/OpenFormats.h"
+#include "tools/tervix/changes/ProjectCheck.h"
+#include "tools/tervix/changes/References.h"
+
+namespace tervix::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string folderOf(const std::string& path) {
+  return fs::path(path).parent_path().generic_string();
+}
+
+bool isThere(const std::string& path) {
+  std::error_code error;
+  return fs::symlink_status(path, error).type() != fs::file_type::not_found;
+}
+
+void mapAll(PathMap& map, const std::vector<std::string>& from,
+            const std::vector<std::string>& to) {
+  for (std::size_t i = 0; i < from.size(); ++i)
+    map.moveFile(from[i], to[i]);
+}
+
+// The library takes the new names from the record and the node. What it does not carry the plan
+// does, so its status does not count.
+void carry(CTervixProject& project, CTervixProfile& profile, const ProfileChange& change,
+           std::string oldSim, std::string newSim) {
+  const bool isProfile = change.profile != change.newProfile;
+  std::string former = isProfile ? change.profile : change.schematic;
+  std::string changed = isProfile ? change.newProfile : change.newSchematic;
+  if (former != changed)
+    project.setChangedName(former, changed,
+                           isProfile ? RENAME_TYPE_PROFILE : RENAME_TYPE_SCHEMATIC);
+  std::string name = change.newProfile;
+  profile.setName(name);
+  profile.syncUpProfileFiles(oldSim, newSim);
+}
+
+} // namespace
+
+Renaming::Renaming(CTervixProject& project)
+    : project_(project), view_(viewOf(project)), before_(layoutOf(project)), after_(before_) {
+  for (const SchematicView& schematic : view_.schematics)
+    for (const ProfileView& profile : schematic.profiles)
+      profiles_.push_back({schematic.name, profile.name, schematic.name, profile.name});
+}
+
+// For front end 1 project, design and schematic bear the name of the folder that holds them all.
+void Renaming::renameProject(const std::string& newName) {
+  after_.project = newName;
+  const std::string extension = fs::path(before_.projectFile).extension().string();
+  if (!before_.hasDesignFile()) {
+    const std::string outer = folderOf(before_.folder);
+    const std::string newOuter = folderOf(outer) + "/" + newName;
+    after_.folder = newOuter + before_.folder.substr(outer.size());
+    after_.designFolder = after_.folder;
+    after_.design = newName;
+    for (ProfileChange& change : profiles_)
+      change.newSchematic = newName;
+    map_.moveFolder(outer, newOuter);
+  }
+  after_.projectFile = after_.folder + "/" + newName + extension;
+}
+
+void Renaming::renameDesign(const std::string& newName) {
+  if (!before_.hasDesignFile())
+    return renameProject(newName);
+  after_.design = newName;
+}
+
+void Renaming::renameSchematic(const std::string& name, const std::string& newName) {
+  if (!before_.hasDesignFile())
+    return renameProject(newName);
+  for (ProfileChange& change : profiles_)
+    if (change.schematic == name)
+      change.newSchematic = newName;
+  schematicNames_[name] = newName;
+}
+
+void Renaming::renameProfile(const std::string& schematic, const std::string& name,
+                             const std::string& newName) {
+  for (ProfileChange& change : profiles_)
+    if (change.schematic == schematic && change.profile == name)
+      change.newProfile = newName;
+}
+
+std::string Renaming::newNameOf(const std::string& schematic) const {
+  if (!before_.hasDesignFile())
+    return after_.design;
+  const auto changed = schematicNames_.find(schematic);
+  return changed != schematicNames_.end() ? changed->second : schematic;
+}
+
+void Renaming::mapPaths() {
+  map_.moveFile(before_.projectFile, after_.projectFile);
+  if (before_.hasDesignFile()) {
+    map_.moveFile(view_.design.place, after_.designFolder + "/" + after_.design +
+                                          fs::path(view_.design.place).extension().string());
+    if (before_.isSimulation())
+      map_.moveFolder(before_.filesFolder(), after_.filesFolder());
+  }
+  for (const SchematicView& schematic : view_.schematics) {
+    const SchematicPlaces from = before_.placesOf(schematic.name);
+    const SchematicPlaces to = after_.placesOf(newNameOf(schematic.name));
+    if (before_.isSimulation() && before_.hasDesignFile())
+      map_.moveFolder(from.folder, to.folder);
+    mapAll(map_, from.files, to.files);
+  }
+  for (const ProfileChange& change : profiles_)
+    mapProfile(change);
+}
+
+void Renaming::mapProfile(const ProfileChange& change) {
+  const ProfilePlaces from = before_.placesOf(change.schematic, change.profile);
+  const ProfilePlaces to = after_.placesOf(change.newSchematic, change.newProfile);
+  map_.moveFile(from.sim, to.sim);
+  mapAll(map_, from.files, to.files);
+  if (!before_.isSimulation())
+    return;
+  map_.moveFile(from.includeList, to.includeList);
+  map_.moveFolder(from.folder, to.folder);
+}
+
+ChangePlan Renaming::plan(const std::string& title) {
+  mapPaths();
+  ChangePlan plan;
+  plan.title = title;
+  plan.projectFile = after_.projectFile;
+  planTexts(plan);
+  planMovedFiles(plan);
+  planLibraryCalls(plan);
+  ExpectedTree expected;
+  for (const SchematicView& schematic : view_.schematics)
+    expected.insert({newNameOf(schematic.name), ""});
+  for (const ProfileChange& change : profiles_)
+    expected.insert({change.newSchematic, change.newProfile});
+  plan.check = [file = after_.projectFile, frontEnd = before_.frontEnd, expected] {
+    requireTree(file, frontEnd, expected);
+  };
+  return plan;
+}
+
+ChangePlan Renaming::planCopy(const std::string& schematic, const std::string& name,
+                              const std::string& newName, const std::string& title) {
+  const ProfileChange change{schematic, name, schematic, newName};
+  profiles_ = {change};
+  mapProfile(change);
+  ChangePlan plan;
+  plan.title = title;
+  plan.projectFile = before_.projectFile;
+  planProfileTexts(plan, change);
+  planMovedFiles(plan);
+  planLibraryCalls(plan);
+  plan.removed.clear();
+  plan.removedFolders.clear();
+  if (before_.hasDesignFile()) {
+    OpenFormatFile file(before_.projectFile);
+    file.addProfileLike(
+        [this, sim = before_.placesOf(schematic, name).sim](const std::string& text) {
+          return placeOf({text, before_.folder}) == sim;
+        },
+        [this](const std::string& text) {
+          return renamedText({text, before_.folder}, before_.folder, map_);
+        });
+    plan.rewritten.push_back({before_.projectFile, file.text()});
+  }
+  ExpectedTree expected = treeOf(view_);
+  expected.insert({schematic, newName});
+  plan.check = [file = before_.projectFile, frontEnd = before_.frontEnd, expected] {
+    requireTree(file, frontEnd, expected);
+  };
+  return plan;
+}
+
+// A file with text that may name what changes: it moves, is rewritten, or both, or neither.
+void Renaming::planText(ChangePlan& plan, const std::string& path, const std::string& content) {
+  texts_.insert(path);
+  const std::string newPath = map_(path);
+  if (newPath != path) {
+    plan.made.push_back({newPath, path, content, false});
+    plan.removed.push_back(path);
+  } else if (content != contentOf(path)) {
+    plan.rewritten.push_back({path, content});
+  }
+}
+
+void Renaming::planProfileTexts(ChangePlan& plan, const ProfileChange& change) {
+  const ProfilePlaces from = before_.placesOf(change.schematic, change.profile);
+  const References references{before_, after_, change, from, map_};
+  if (isThere(from.sim))
+    planText(plan, from.sim, references.renamedSim(contentOf(from.sim)));
+  if (!from.includeList.empty() && isThere(from.includeList))
+    planText(plan, from.includeList, references.renamedIncludeList(contentOf(from.includeList)));
+}
+
+void Renaming::planTexts(ChangePlan& plan) {
+  for (const ProfileChange& change : profiles_)
+    planProfileTexts(plan, change);
+  if (before_.hasDesignFile()) {
+    OpenFormatFile design(view_.design.place);
+    design.renameSchematics([this](const std::string& name) { return newNameOf(name); });
+    planText(plan, view_.design.place, design.text());
+  }
+  OpenFormatFile file(before_.projectFile);
+  file.renamePaths([this](const std::string& text) {
+    return renamedText({text, before_.folder}, after_.folder, map_);
+  });
+  for (const ProfileChange& change : profiles_)
+    file.renameActive(before_.placesOf(change.schematic, change.profile).displayName,
+                      after_.placesOf(change.newSchematic, change.newProfile).displayName);
+  planText(plan, before_.projectFile, file.text());
+}
+
+void Renaming::planMovedFiles(ChangePlan& plan) const {
+  std::set<std::string> planned = texts_;
+  const auto planFile = [&](const std::string& path) {
+    const std::string newPath = map_(path);
+    if (newPath == path || !planned.insert(path).second)
+      return;
+    plan.made.push_back({newPath, path, "", true});
+    plan.removed.push_back(path);
+  };
+  for (const auto& [folder, newFolder] : map_.folders()) {
+    if (!isThere(folder) || !planned.insert(folder).second)
+      continue;
+    std::vector<std::string> inner = {folder};
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+      const std::string path = entry.path().generic_string();
+      if (!fs::is_directory(entry.symlink_status()))
+        planFile(path);
+      else if (planned.insert(path).second)
+        inner.push_back(path);
+    }
+    for (const std::string& path : inner) {
+      if (!isThere(map_(path)))
+        plan.madeFolders.push_back(map_(path));
+      plan.removedFolders.push_back(path);
+    }
+  }
+  // The innermost folder goes first: its path is the longest of those that hold it.
+  std::sort(plan.removedFolders.rbegin(), plan.removedFolders.rend());
+  for (const auto& [path, newPath] : map_.files())
+    if (isThere(path))
+      planFile(path);
+}
+
+void Renaming::planLibraryCalls(ChangePlan& plan) {
+  for (const ProfileChange& change : profiles_) {
+    const ProfilePlaces from = before_.placesOf(change.schematic, change.profile);
+    const std::string newSim = map_(from.sim);
+    if (newSim == from.sim || !isThere(from.sim))
+      continue;
+    CTervixNode* node = nullptr;
+    std::string schematic = change.schematic;
+    std::string profile = change.profile;
+    project_.findProfile(node, schematic, profile);
+    // A profile that was never run has no folder to carry along.
+    if (node == nullptr || (before_.isSimulation() && !isThere(from.folder)))
+      continue;
+    plan.libraryCalls.emplace_back([&project = project_, node, change, from, newSim] {
+      carry(project, static_cast<CTervixProfile&>(*node), change, from.sim, newSim);
+    });
+  }
+}
+
+} // namespace tervix::tool

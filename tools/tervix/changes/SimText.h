@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tervix::tool {
+
+// The keys of a ".sim" file that name the profile, its project or its files.
+enum class SimKey {
+  kProfileName,
+  kRootSchematics,
+  kProfileFile,
+  kDesignFile,
+  kProjectFile,
+  kNetlistFile,
+  kDataFile,
+  kOutFile
+};
+
+// Gives the value of a key its new text; none when it stays.
+using SimValue = std::function<std::optional<std::string>(SimKey, const std::string&)>;
+
+// The text with new values for the keys that begin a line, in any case; every other byte stays. A
+// line without quotes has no value and stays.
+std::string rewrittenSim(std::string_view text, const SimValue& newValue);
+
+// The same for the entries of an include list.
+std::string
+rewrittenIncludeList(std::string_view text,
+                     const std::function<std::optional<std::string>(const std::string&)>& newPath);
+
+// The value of the first line with that key; empty without one.
+std::string simValueOf(std::string_view text, SimKey key);
+
+// The text of a new ".sim" file with all keys.
+std::string newSim(const std::function<std::string(SimKey)>& value);
+
+} // namespace tervix::tool
