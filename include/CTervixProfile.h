@@ -160,9 +160,8 @@ public:
   //   and the run's files take the new name, unless only case changed; a file that is there under
   //   its new name already stays, and the copy under the old name goes;
   // - PROJECT_TYPE_OTHER: the run's files beside it, unless they are there; and in newPath the
-  // lines "NetlistFile" and
-  //   "ProjectFile" are rewritten. A "newPath.bak" made for that is removed again; one that was
-  //   there before is left alone.
+  //   lines "NetlistFile" and "ProjectFile" are rewritten. A "newPath.bak" made for that is removed
+  //   again; one that was there before is left alone.
   // The stored data and output paths are dropped, to be read afresh.
   // 10108 with both files: the ".sim" file could not be copied (nothing further is done), or its
   // backup or a run's file (the rest goes on). 10123 with both folders: the folder could not be

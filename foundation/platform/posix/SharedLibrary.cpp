@@ -46,8 +46,8 @@ SearchPath searchPath() {
 void* load(const std::string& name) {
   const SearchPath path = searchPath();
   // The first one counts, even if it cannot be loaded: it was put there to be used.
-  for (const std::string& folder : path.folders)
-    if (const std::string file = folder + "/" + name; exists(file))
+  for (std::string file : path.folders)
+    if (file.append("/").append(name); exists(file))
       return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
   // The loader knows more folders than it tells, from its cache.
   return path.holdsCurrentFolder ? nullptr : dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);

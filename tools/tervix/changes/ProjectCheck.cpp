@@ -1,7 +1,10 @@
 #include "tools/tervix/changes/ProjectCheck.h"
 
+#include <algorithm>
+
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/OpenedProject.h"
+#include "tools/tervix/changes/Names.h"
 
 namespace tervix::tool {
 
@@ -15,17 +18,33 @@ ExpectedTree treeOf(const ProjectView& project) {
   return tree;
 }
 
+namespace {
+
+std::string described(const std::string& schematic, const std::string& profile) {
+  std::string text = "schematic \"" + schematic + "\"";
+  if (!profile.empty())
+    text.insert(0, "profile \"" + profile + "\" of ");
+  return text;
+}
+
+} // namespace
+
 void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
                  const ExpectedTree& expected) {
   const ExpectedTree found = treeOf(viewOf(openProject(projectFile, static_cast<int>(frontEnd))));
+  // Front end 1 finds its profiles on disk, those that are still to be removed among them, and of
+  // two that differ in case either one.
+  const bool isExact = frontEnd == FRONTEND_ID_DESIGN_FILE;
+  const auto isFound = [&](const std::string& schematic, const std::string& profile) {
+    return std::any_of(found.begin(), found.end(), [&](const auto& entry) {
+      return isExact ? entry.first == schematic && entry.second == profile
+                     : isSameName(entry.first, schematic) && isSameName(entry.second, profile);
+    });
+  };
   for (const auto& [schematic, profile] : expected)
-    if (found.count({schematic, profile}) == 0)
-      throw Failure("the changed project would lack " +
-                    (profile.empty()
-                         ? "schematic \"" + schematic + "\""
-                         : "profile \"" + profile + "\" of schematic \"" + schematic + "\""));
-  // Front end 1 finds its profiles on disk, those that are still to be removed among them.
-  if (frontEnd == FRONTEND_ID_DESIGN_FILE && found.size() != expected.size())
+    if (!isFound(schematic, profile))
+      throw Failure("the changed project would lack " + described(schematic, profile));
+  if (isExact && found.size() != expected.size())
     throw Failure("the changed project would hold more than it should");
 }
 
