@@ -11,7 +11,10 @@
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/ShowCommand.h"
+#include "tools/tervix/commands/DesignCommand.h"
 #include "tools/tervix/commands/ProfileCommand.h"
+#include "tools/tervix/commands/ProjectCommand.h"
+#include "tools/tervix/commands/SchematicCommand.h"
 
 namespace {
 
@@ -55,6 +58,9 @@ int run(int argc, char** argv) {
   app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
   addShowCommand(app);
   addProfileCommand(app);
+  addSchematicCommand(app);
+  addDesignCommand(app);
+  addProjectCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -67,6 +67,14 @@ void OpenFormatFile::replaceAll(const char* section, const char* item,
       require(file_.replaceElement(section, item, i, text));
 }
 
+void OpenFormatFile::removeMatching(const char* section, const char* item,
+                                    const std::function<bool(const std::string&)>& matches) {
+  const std::vector<std::string> elements = list(section, item);
+  for (std::size_t i = elements.size(); i-- > 0;)
+    if (matches(elements[i]))
+      require(file_.removeElement(section, item, i));
+}
+
 void OpenFormatFile::replaceText(const char* section, const char* item,
                                  const std::function<std::string(const std::string&)>& newText) {
   const auto text = file_.textOf(section, item);
@@ -89,7 +97,8 @@ void OpenFormatFile::addSchematic(const std::string& name) {
 }
 
 void OpenFormatFile::removeSchematic(const std::string& name) {
-  require(file_.removeFromList(kDesign, kSchematics, name));
+  removeMatching(kDesign, kSchematics,
+                 [&](const std::string& element) { return isSameName(element, name); });
 }
 
 void OpenFormatFile::renamePaths(const std::function<std::string(const std::string&)>& newPath) {
@@ -114,10 +123,7 @@ void OpenFormatFile::addProfile(const std::string& file) {
 }
 
 void OpenFormatFile::removeProfiles(const std::function<bool(const std::string&)>& matches) {
-  const std::vector<std::string> elements = list(kProfiles, kFiles);
-  for (std::size_t i = elements.size(); i-- > 0;)
-    if (matches(elements[i]))
-      require(file_.removeElement(kProfiles, kFiles, i));
+  removeMatching(kProfiles, kFiles, matches);
 }
 
 void OpenFormatFile::addProfileLike(const std::function<bool(const std::string&)>& matches,

@@ -19,7 +19,7 @@ public:
   // A design file: its schematics and its root.
   void renameSchematics(const std::function<std::string(const std::string&)>& newName);
   void addSchematic(const std::string& name);
-  void removeSchematic(const std::string& name);
+  void removeSchematic(const std::string& name); // in any case
 
   // A project file: every file that it lists, and its output file.
   void renamePaths(const std::function<std::string(const std::string&)>& newPath);
@@ -36,6 +36,8 @@ private:
   std::vector<std::string> list(const char* section, const char* item) const;
   void replaceAll(const char* section, const char* item,
                   const std::function<std::string(const std::string&)>& newText);
+  void removeMatching(const char* section, const char* item,
+                      const std::function<bool(const std::string&)>& matches);
   void replaceText(const char* section, const char* item,
                    const std::function<std::string(const std::string&)>& newText);
 

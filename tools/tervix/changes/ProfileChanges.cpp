@@ -60,12 +60,6 @@ std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
   });
 }
 
-void checkTree(ChangePlan& plan, const ProjectLayout& layout, const ExpectedTree& expected) {
-  plan.check = [file = plan.projectFile, frontEnd = layout.frontEnd, expected] {
-    requireTree(file, frontEnd, expected);
-  };
-}
-
 } // namespace
 
 ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicName,
@@ -122,7 +116,10 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
   ChangePlan plan;
   plan.title = "delete profile " + profile.name + " of schematic " + schematic.name;
   plan.projectFile = layout.projectFile;
+  ExpectedTree expected = treeOf(view);
+  expected.erase({schematic.name, profile.name});
   removeProfileFiles(plan, layout, schematic.name, profile.name);
+  keepFilesNamedBy(plan, view, expected);
   if (layout.hasDesignFile()) {
     OpenFormatFile file(layout.projectFile);
     file.removeProfiles([&, sim = profile.sim.place](const std::string& text) {
@@ -130,8 +127,6 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
     });
     file.renameActive(profile.displayName, "");
     plan.rewritten.push_back({layout.projectFile, file.text()});
-    ExpectedTree expected = treeOf(view);
-    expected.erase({schematic.name, profile.name});
     checkTree(plan, layout, expected);
   }
   return plan;

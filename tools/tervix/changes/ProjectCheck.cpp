@@ -48,4 +48,10 @@ void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
     throw Failure("the changed project would hold more than it should");
 }
 
+void checkTree(ChangePlan& plan, const ProjectLayout& layout, const ExpectedTree& expected) {
+  plan.check = [file = plan.projectFile, frontEnd = layout.frontEnd, expected] {
+    requireTree(file, frontEnd, expected);
+  };
+}
+
 } // namespace tervix::tool

@@ -6,6 +6,8 @@
 
 #include "CTervixProject.h"
 #include "tools/tervix/ProjectView.h"
+#include "tools/tervix/changes/ChangePlan.h"
+#include "tools/tervix/changes/ProjectLayout.h"
 
 namespace tervix::tool {
 
@@ -17,5 +19,8 @@ ExpectedTree treeOf(const ProjectView& project);
 // Throws a Failure unless the project opens and has this tree, and for front end 2 nothing else.
 void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
                  const ExpectedTree& expected);
+
+// Makes that the check of a plan.
+void checkTree(ChangePlan& plan, const ProjectLayout& layout, const ExpectedTree& expected);
 
 } // namespace tervix::tool

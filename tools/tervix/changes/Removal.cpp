@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 namespace tervix::tool {
 namespace {
@@ -50,6 +51,30 @@ void removeSchematicFiles(ChangePlan& plan, const ProjectLayout& layout,
     removeFile(plan, file);
   if (layout.isSimulation() && layout.hasDesignFile())
     removeFolder(plan, places.folder);
+}
+
+void keepFilesNamedBy(ChangePlan& plan, const ProjectView& project, const ExpectedTree& remaining) {
+  std::set<std::string> kept;
+  const auto keep = [&](const std::vector<FileView>& files) {
+    for (const FileView& file : files)
+      if (const auto place = std::find(plan.removed.begin(), plan.removed.end(), file.place);
+          place != plan.removed.end()) {
+        plan.removed.erase(place);
+        kept.insert(file.place);
+      }
+  };
+  keep(project.variants);
+  for (const SchematicView& schematic : project.schematics)
+    for (const ProfileView& profile : schematic.profiles)
+      if (remaining.count({schematic.name, profile.name}) != 0)
+        keep(profile.variants);
+  const auto holdsKept = [&](const std::string& folder) {
+    return std::any_of(kept.begin(), kept.end(),
+                       [&](const std::string& file) { return file.rfind(folder + "/", 0) == 0; });
+  };
+  plan.removedFolders.erase(
+      std::remove_if(plan.removedFolders.begin(), plan.removedFolders.end(), holdsKept),
+      plan.removedFolders.end());
 }
 
 } // namespace tervix::tool

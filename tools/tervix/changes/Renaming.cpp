@@ -33,14 +33,8 @@ void mapAll(PathMap& map, const std::vector<std::string>& from,
 
 // The library takes the new names from the record and the node. What it does not carry the plan
 // does, so its status does not count.
-void carry(CTervixProject& project, CTervixProfile& profile, const ProfileChange& change,
-           std::string oldSim, std::string newSim) {
-  const bool isProfile = change.profile != change.newProfile;
-  std::string former = isProfile ? change.profile : change.schematic;
-  std::string changed = isProfile ? change.newProfile : change.newSchematic;
-  if (former != changed)
-    project.setChangedName(former, changed,
-                           isProfile ? RENAME_TYPE_PROFILE : RENAME_TYPE_SCHEMATIC);
+void carry(CTervixProfile& profile, const ProfileChange& change, std::string oldSim,
+           std::string newSim) {
   std::string name = change.newProfile;
   profile.setName(name);
   profile.syncUpProfileFiles(oldSim, newSim);
@@ -55,32 +49,41 @@ Renaming::Renaming(CTervixProject& project)
       profiles_.push_back({schematic.name, profile.name, schematic.name, profile.name});
 }
 
-// For front end 1 project, design and schematic bear the name of the folder that holds them all.
 void Renaming::renameProject(const std::string& newName) {
+  changedName_ = {before_.project, newName, RENAME_TYPE_PROJECT};
+  if (!before_.hasDesignFile())
+    return renameAll(newName);
   after_.project = newName;
-  const std::string extension = fs::path(before_.projectFile).extension().string();
-  if (!before_.hasDesignFile()) {
-    const std::string outer = folderOf(before_.folder);
-    const std::string newOuter = folderOf(outer) + "/" + newName;
-    after_.folder = newOuter + before_.folder.substr(outer.size());
-    after_.designFolder = after_.folder;
-    after_.design = newName;
-    for (ProfileChange& change : profiles_)
-      change.newSchematic = newName;
-    map_.moveFolder(outer, newOuter);
-  }
-  after_.projectFile = after_.folder + "/" + newName + extension;
+  after_.projectFile =
+      after_.folder + "/" + newName + fs::path(before_.projectFile).extension().string();
+}
+
+// For front end 1 project, design and schematic bear the name of the folder that holds them all.
+void Renaming::renameAll(const std::string& newName) {
+  const std::string outer = folderOf(before_.folder);
+  const std::string newOuter = folderOf(outer) + "/" + newName;
+  after_.project = newName;
+  after_.design = newName;
+  after_.folder = newOuter + before_.folder.substr(outer.size());
+  after_.designFolder = after_.folder;
+  after_.projectFile =
+      after_.folder + "/" + newName + fs::path(before_.projectFile).extension().string();
+  for (ProfileChange& change : profiles_)
+    change.newSchematic = newName;
+  map_.moveFolder(outer, newOuter);
 }
 
 void Renaming::renameDesign(const std::string& newName) {
+  changedName_ = {before_.design, newName, RENAME_TYPE_DESIGN};
   if (!before_.hasDesignFile())
-    return renameProject(newName);
+    return renameAll(newName);
   after_.design = newName;
 }
 
 void Renaming::renameSchematic(const std::string& name, const std::string& newName) {
+  changedName_ = {name, newName, RENAME_TYPE_SCHEMATIC};
   if (!before_.hasDesignFile())
-    return renameProject(newName);
+    return renameAll(newName);
   for (ProfileChange& change : profiles_)
     if (change.schematic == name)
       change.newSchematic = newName;
@@ -89,6 +92,7 @@ void Renaming::renameSchematic(const std::string& name, const std::string& newNa
 
 void Renaming::renameProfile(const std::string& schematic, const std::string& name,
                              const std::string& newName) {
+  changedName_ = {name, newName, RENAME_TYPE_PROFILE};
   for (ProfileChange& change : profiles_)
     if (change.schematic == schematic && change.profile == name)
       change.newProfile = newName;
@@ -144,9 +148,7 @@ ChangePlan Renaming::plan(const std::string& title) {
     expected.insert({newNameOf(schematic.name), ""});
   for (const ProfileChange& change : profiles_)
     expected.insert({change.newSchematic, change.newProfile});
-  plan.check = [file = after_.projectFile, frontEnd = before_.frontEnd, expected] {
-    requireTree(file, frontEnd, expected);
-  };
+  checkTree(plan, after_, expected);
   return plan;
 }
 
@@ -154,6 +156,7 @@ ChangePlan Renaming::planCopy(const std::string& schematic, const std::string& n
                               const std::string& newName, const std::string& title) {
   const ProfileChange change{schematic, name, schematic, newName};
   profiles_ = {change};
+  changedName_ = {name, newName, RENAME_TYPE_PROFILE};
   mapProfile(change);
   ChangePlan plan;
   plan.title = title;
@@ -176,9 +179,7 @@ ChangePlan Renaming::planCopy(const std::string& schematic, const std::string& n
   }
   ExpectedTree expected = treeOf(view_);
   expected.insert({schematic, newName});
-  plan.check = [file = before_.projectFile, frontEnd = before_.frontEnd, expected] {
-    requireTree(file, frontEnd, expected);
-  };
+  checkTree(plan, before_, expected);
   return plan;
 }
 
@@ -255,6 +256,9 @@ void Renaming::planMovedFiles(ChangePlan& plan) const {
 }
 
 void Renaming::planLibraryCalls(ChangePlan& plan) {
+  plan.libraryCalls.emplace_back([&project = project_, record = changedName_]() mutable {
+    project.setChangedName(record.former, record.changed, record.kind);
+  });
   for (const ProfileChange& change : profiles_) {
     const ProfilePlaces from = before_.placesOf(change.schematic, change.profile);
     const std::string newSim = map_(from.sim);
@@ -267,8 +271,8 @@ void Renaming::planLibraryCalls(ChangePlan& plan) {
     // A profile that was never run has no folder to carry along.
     if (node == nullptr || (before_.isSimulation() && !isThere(from.folder)))
       continue;
-    plan.libraryCalls.emplace_back([&project = project_, node, change, from, newSim] {
-      carry(project, static_cast<CTervixProfile&>(*node), change, from.sim, newSim);
+    plan.libraryCalls.emplace_back([node, change, from, newSim] {
+      carry(static_cast<CTervixProfile&>(*node), change, from.sim, newSim);
     });
   }
 }

@@ -37,6 +37,14 @@ public:
                       const std::string& newName, const std::string& title);
 
 private:
+  // What the library is told of the rename.
+  struct ChangedName {
+    std::string former;
+    std::string changed;
+    RENAME_TYPE kind = RENAME_TYPE_NONE;
+  };
+
+  void renameAll(const std::string& newName);
   void mapProfile(const ProfileChange& change);
   void planProfileTexts(ChangePlan& plan, const ProfileChange& change);
   std::string newNameOf(const std::string& schematic) const;
@@ -53,6 +61,7 @@ private:
   std::vector<ProfileChange> profiles_;
   std::map<std::string, std::string> schematicNames_;
   PathMap map_;
+  ChangedName changedName_;
   std::set<std::string> texts_; // files whose content the plan has seen to
 };
 

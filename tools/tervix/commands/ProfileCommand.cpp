@@ -1,71 +1,36 @@
 #include "tools/tervix/commands/ProfileCommand.h"
 
-#include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/changes/ProfileChanges.h"
-#include "tools/tervix/commands/ChangeOptions.h"
+#include "tools/tervix/commands/ChangeAction.h"
 
 namespace tervix::tool {
-namespace {
-
-struct ProfileOptions : ChangeOptions {
-  std::string schematic;
-  std::string name;
-  std::string newName;
-};
-
-using PlanOne = ChangePlan (*)(CTervixProject&, const std::string&, const std::string&);
-using PlanTwo = ChangePlan (*)(CTervixProject&, const std::string&, const std::string&,
-                               const std::string&);
-
-CLI::App* addAction(CLI::App& command, const char* action, const char* help,
-                    const std::shared_ptr<ProfileOptions>& options) {
-  CLI::App* sub = command.add_subcommand(action, help);
-  addChangeOptions(*sub, *options);
-  sub->add_option("NAME", options->name, "The profile")->required()->type_name("");
-  sub->add_option("--schematic", options->schematic, "The schematic that holds it")
-      ->option_text("S");
-  return sub;
-}
-
-void addActionWithName(CLI::App& command, const char* action, const char* help, PlanOne plan,
-                       bool removes) {
-  auto options = std::make_shared<ProfileOptions>();
-  CLI::App* sub = addAction(command, action, help, options);
-  if (removes)
-    addKeepOldOption(*sub, *options);
-  sub->callback([options, plan] {
-    CTervixProject& project = openProject(options->file, options->frontEnd);
-    finish(plan(project, options->schematic, options->name), *options);
-  });
-}
-
-void addActionWithNewName(CLI::App& command, const char* action, const char* help, PlanTwo plan,
-                          bool removes) {
-  auto options = std::make_shared<ProfileOptions>();
-  CLI::App* sub = addAction(command, action, help, options);
-  sub->add_option("NEW", options->newName, "Its new name")->required()->type_name("");
-  if (removes)
-    addKeepOldOption(*sub, *options);
-  sub->callback([options, plan] {
-    CTervixProject& project = openProject(options->file, options->frontEnd);
-    finish(plan(project, options->schematic, options->name, options->newName), *options);
-  });
-}
-
-} // namespace
 
 void addProfileCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("profile", "Add, copy, rename, delete, activate profiles");
   command->require_subcommand(1);
-  addActionWithName(*command, "add", "Make a new profile", planProfileAdd, false);
-  addActionWithNewName(*command, "copy", "Copy a profile with all its files", planProfileCopy,
-                       false);
-  addActionWithNewName(*command, "rename", "Rename a profile and all its files", planProfileRename,
-                       true);
-  addActionWithName(*command, "delete", "Delete a profile and all its files", planProfileDelete,
-                    true);
-  addActionWithName(*command, "activate", "Make a profile of the root schematic the active one",
-                    planProfileActivate, false);
+  addChangeAction(*command, {"add", "Make a new profile", "Its name", nullptr, true, false,
+                             [](CTervixProject& project, const ChangedNames& names) {
+                               return planProfileAdd(project, names.schematic, names.name);
+                             }});
+  addChangeAction(*command,
+                  {"copy", "Copy a profile with all its files", "The profile", "The copy's name",
+                   true, false, [](CTervixProject& project, const ChangedNames& names) {
+                     return planProfileCopy(project, names.schematic, names.name, names.newName);
+                   }});
+  addChangeAction(*command,
+                  {"rename", "Rename a profile and all its files", "The profile", "Its new name",
+                   true, true, [](CTervixProject& project, const ChangedNames& names) {
+                     return planProfileRename(project, names.schematic, names.name, names.newName);
+                   }});
+  addChangeAction(*command, {"delete", "Delete a profile and all its files", "The profile", nullptr,
+                             true, true, [](CTervixProject& project, const ChangedNames& names) {
+                               return planProfileDelete(project, names.schematic, names.name);
+                             }});
+  addChangeAction(*command,
+                  {"activate", "Make a profile of the root schematic the active one", "The profile",
+                   nullptr, true, false, [](CTervixProject& project, const ChangedNames& names) {
+                     return planProfileActivate(project, names.schematic, names.name);
+                   }});
 }
 
 } // namespace tervix::tool

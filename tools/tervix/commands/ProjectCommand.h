@@ -1,0 +1,10 @@
+#pragma once
+
+#include <CLI/App.hpp>
+
+namespace tervix::tool {
+
+// `tervix project rename`.
+void addProjectCommand(CLI::App& app);
+
+} // namespace tervix::tool
