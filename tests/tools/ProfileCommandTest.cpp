@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <set>
 
@@ -7,9 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/TemporaryFolder.h"
-#include "tests/tools/Sample.h"
-#include "tests/tools/ToolRun.h"
+#include "tests/tools/ChangedSample.h"
 
 // Changing the profiles of a project from the command line, in each layout.
 
@@ -19,20 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Files = std::map<std::string, std::string>;
-
 ToolRun profile(const std::string& action, Arguments arguments) {
   arguments.insert(arguments.begin(), {"profile", action});
   return runTool(arguments);
-}
-
-void expectDone(const ToolRun& run) {
-  EXPECT_EQ(run.status, 0) << run.errors;
-  EXPECT_EQ(run.errors, "");
-}
-
-bool contains(const std::string& text, const std::string& piece) {
-  return text.find(piece) != std::string::npos;
 }
 
 std::multiset<std::string> contentsOf(const Files& files, const std::set<std::string>& except) {
@@ -43,16 +29,8 @@ std::multiset<std::string> contentsOf(const Files& files, const std::set<std::st
   return contents;
 }
 
-class ChangedSample : public ::testing::TestWithParam<int> {
+class ChangedProfile : public ChangedSample {
 protected:
-  const Sample& sample() const { return allSamples().at(static_cast<std::size_t>(GetParam())); }
-  bool isFrontEnd2() const { return GetParam() < 2; }
-  bool isSimulation() const { return GetParam() == 0 || GetParam() == 2; }
-  // The sample's first profile.
-  std::string name() const { return GetParam() == 3 ? "ac" : "tran"; }
-
-  Files files() const { return snapshotOf(copy_.folder()); }
-
   std::set<std::string> profileNames() const {
     std::set<std::string> names;
     const auto tree = shownAsJson({copy_.project()});
@@ -61,28 +39,11 @@ protected:
         names.insert(profile["name"].get<std::string>());
     return names;
   }
-
-  // The files of the sample whose names hold a word.
-  std::vector<std::string> filesNamed(const std::string& word) const {
-    std::vector<std::string> named;
-    for (const auto& [file, content] : files())
-      if (contains(file, word))
-        named.push_back(file);
-    return named;
-  }
-
-  SampleCopy copy_{sample()};
 };
 
-std::string layoutName(const ::testing::TestParamInfo<int>& layout) {
-  const std::array<const char*, 4> layouts = {"DesignSimulation", "DesignOther",
-                                              "ProjectSimulation", "ProjectOther"};
-  return layouts.at(static_cast<std::size_t>(layout.param));
-}
+INSTANTIATE_TEST_SUITE_P(All, ChangedProfile, ::testing::Range(0, 4), layoutName);
 
-INSTANTIATE_TEST_SUITE_P(All, ChangedSample, ::testing::Range(0, 4), layoutName);
-
-TEST_P(ChangedSample, HasItsFilesUnderTheNewNameOfAProfile) {
+TEST_P(ChangedProfile, HasItsFilesUnderTheNewNameOfAProfile) {
   const Files before = files();
   const std::size_t count = filesNamed(name()).size();
   expectDone(profile("rename", {copy_.project(), name(), "renamed"}));
@@ -96,7 +57,7 @@ TEST_P(ChangedSample, HasItsFilesUnderTheNewNameOfAProfile) {
   EXPECT_EQ(names.count(name()), 0U);
 }
 
-TEST_P(ChangedSample, KeepsEveryOtherLineOfARenamedProfile) {
+TEST_P(ChangedProfile, KeepsEveryOtherLineOfARenamedProfile) {
   const std::string oldSim = filesNamed(name() + ".sim").front();
   std::string expected = contentOf(copy_.path(oldSim));
   expectDone(profile("rename", {copy_.project(), name(), "renamed"}));
@@ -110,7 +71,7 @@ TEST_P(ChangedSample, KeepsEveryOtherLineOfARenamedProfile) {
   EXPECT_EQ(text, expected);
 }
 
-TEST_P(ChangedSample, IsRenamedInCaseOnly) {
+TEST_P(ChangedProfile, IsRenamedInCaseOnly) {
   const std::string upper = name() == "ac" ? "AC" : "TRAN";
   const std::size_t count = filesNamed(name()).size();
   expectDone(profile("rename", {copy_.project(), name(), upper}));
@@ -119,7 +80,7 @@ TEST_P(ChangedSample, IsRenamedInCaseOnly) {
   EXPECT_EQ(profileNames().count(upper), 1U);
 }
 
-TEST_P(ChangedSample, KeepsOldFilesWhenAskedTo) {
+TEST_P(ChangedProfile, KeepsOldFilesWhenAskedTo) {
   const Files before = files();
   expectDone(profile("rename", {copy_.project(), name(), "renamed", "--keep-old"}));
   const Files after = files();
@@ -129,7 +90,7 @@ TEST_P(ChangedSample, KeepsOldFilesWhenAskedTo) {
     }
 }
 
-TEST_P(ChangedSample, IsAsBeforeWhenACopyIsDeleted) {
+TEST_P(ChangedProfile, IsAsBeforeWhenACopyIsDeleted) {
   const Files before = files();
   const std::size_t count = filesNamed(name()).size();
   expectDone(profile("copy", {copy_.project(), name(), "duplicate"}));
@@ -140,7 +101,7 @@ TEST_P(ChangedSample, IsAsBeforeWhenACopyIsDeleted) {
   EXPECT_EQ(files(), before);
 }
 
-TEST_P(ChangedSample, IsAsBeforeWhenANewProfileIsDeleted) {
+TEST_P(ChangedProfile, IsAsBeforeWhenANewProfileIsDeleted) {
   const Files before = files();
   expectDone(profile("add", {copy_.project(), "fresh"}));
   EXPECT_EQ(filesNamed("fresh").size(), 1U);
@@ -149,7 +110,7 @@ TEST_P(ChangedSample, IsAsBeforeWhenANewProfileIsDeleted) {
   EXPECT_EQ(files(), before);
 }
 
-TEST_P(ChangedSample, HasAnActiveProfileForFrontEnd2) {
+TEST_P(ChangedProfile, HasAnActiveProfileForFrontEnd2) {
   expectDone(profile("add", {copy_.project(), "fresh"}));
   const ToolRun run = profile("activate", {copy_.project(), "fresh"});
   if (isFrontEnd2()) {
@@ -161,7 +122,7 @@ TEST_P(ChangedSample, HasAnActiveProfileForFrontEnd2) {
   }
 }
 
-TEST_P(ChangedSample, IsNotTouchedByADryRun) {
+TEST_P(ChangedProfile, IsNotTouchedByADryRun) {
   const Files before = files();
   const ToolRun run =
       profile("rename", {copy_.project(), name(), "renamed", "--dry-run", "--json"});
@@ -186,7 +147,7 @@ TEST_P(ChangedSample, IsNotTouchedByADryRun) {
   EXPECT_EQ(files(), before);
 }
 
-TEST_P(ChangedSample, RefusesNamesBeforeItTouchesAnything) {
+TEST_P(ChangedProfile, RefusesNamesBeforeItTouchesAnything) {
   const Files before = files();
   for (const std::string bad :
        {"", ".", "..", "a/b", "a\\b", "a.b", "con", "NUL", "a:b", " a", "a\nb", "a\x7f"}) {
@@ -204,7 +165,7 @@ TEST_P(ChangedSample, RefusesNamesBeforeItTouchesAnything) {
   EXPECT_EQ(files(), before);
 }
 
-TEST_P(ChangedSample, TakesEverythingBackWhenAFileCannotBeCopied) {
+TEST_P(ChangedProfile, TakesEverythingBackWhenAFileCannotBeCopied) {
   // A FIFO among the profile's files: no copy of it can be made.
   const std::string sim = copy_.path(filesNamed(name() + ".sim").front());
   const std::string stem = sim.substr(0, sim.size() - 4);
@@ -219,7 +180,7 @@ TEST_P(ChangedSample, TakesEverythingBackWhenAFileCannotBeCopied) {
   EXPECT_EQ(profileNames().count(name()), 1U);
 }
 
-TEST_P(ChangedSample, CarriesWhatTheLibrarysTreeCopyStopsAt) {
+TEST_P(ChangedProfile, CarriesWhatTheLibrarysTreeCopyStopsAt) {
   if (!isSimulation())
     return;
   const std::string sim = copy_.path(filesNamed(name() + ".sim").front());
@@ -235,7 +196,7 @@ TEST_P(ChangedSample, CarriesWhatTheLibrarysTreeCopyStopsAt) {
   EXPECT_FALSE(fs::exists(folder));
 }
 
-TEST_P(ChangedSample, RenamesAProfileThatWasNeverRun) {
+TEST_P(ChangedProfile, RenamesAProfileThatWasNeverRun) {
   expectDone(profile("add", {copy_.project(), "fresh"}));
   const Files before = files();
   expectDone(profile("rename", {copy_.project(), "fresh", "later"}));
