@@ -58,7 +58,7 @@ TEST(Help, TellsTheCommandsAndTheExitStatuses) {
     const ToolRun run = runTool({option});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
-    for (const char* word : {"tervix", "show", "--version", "0 done, 1 failed, 2 wrong usage"})
+    for (const char* word : {"tervix", "show", "files", "--version", "0 done, 1 failed, 2 wrong usage"})
       EXPECT_NE(run.output.find(word), std::string::npos) << run.output;
   }
 }

@@ -60,6 +60,12 @@ std::string inQuotes(std::string_view text) {
   return "\"" + printable(text) + "\"";
 }
 
+std::string shownFrom(const std::string& folder, const std::string& path) {
+  const std::string prefix = folder + "/";
+  const bool isInside = path.size() > prefix.size() && path.compare(0, prefix.size(), prefix) == 0;
+  return printable(isInside ? path.substr(prefix.size()) : path);
+}
+
 std::string withControlsEscaped(const std::string& json) {
   std::string result;
   for (std::size_t at = 0; at < json.size(); ++at) {

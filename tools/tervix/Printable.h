@@ -12,6 +12,9 @@ std::string printable(std::string_view text);
 // text as a person's message names a file: printable and between quotes.
 std::string inQuotes(std::string_view text);
 
+// A path as a person is shown it: one inside the folder as seen from there.
+std::string shownFrom(const std::string& folder, const std::string& path);
+
 // JSON text with the control characters escaped that JSON allows as they are.
 std::string withControlsEscaped(const std::string& json);
 

@@ -1,31 +1,14 @@
 #include "tools/tervix/ProjectJson.h"
 
-#include <nlohmann/json.hpp>
-
-#include "tools/tervix/Printable.h"
+#include "tools/tervix/Json.h"
 
 namespace tervix::tool {
 namespace {
 
-// Keys in the order in which they are written here.
-using Json = nlohmann::ordered_json;
-
 constexpr int kShapeVersion = 1;
-
-template <class Value, class Convert>
-Json arrayOf(const std::vector<Value>& values, Convert convert) {
-  Json array = Json::array();
-  for (const Value& value : values)
-    array.push_back(convert(value));
-  return array;
-}
 
 Json jsonOfFile(const FileView& file) {
   return {{"type", file.kind}, {"path", file.place}, {"exists", file.exists}};
-}
-
-Json jsonOfVariant(const FileView& file) {
-  return {{"kind", file.kind}, {"name", file.path}, {"path", file.place}, {"exists", file.exists}};
 }
 
 Json jsonOfNamedFile(const FileView& file) {
@@ -79,8 +62,7 @@ std::string jsonOf(const ProjectView& project) {
       {"designLevelFiles", arrayOf(project.variants, jsonOfVariant)},
       {"schematics", arrayOf(project.schematics, jsonOfSchematic)},
       {"missingProfiles", arrayOf(project.missingProfiles, jsonOfNamedFile)}};
-  // A name may hold any bytes; those that are no UTF-8 are replaced.
-  return withControlsEscaped(json.dump(2, ' ', false, Json::error_handler_t::replace));
+  return textOf(json);
 }
 
 } // namespace tervix::tool

@@ -55,13 +55,7 @@ private:
     return name + "  " + shown(project_.design.place) + missingMark(!project_.design.exists);
   }
 
-  // Paths inside the project's folder are shown as seen from there.
-  std::string shown(const std::string& path) const {
-    const std::string prefix = project_.folder + "/";
-    const bool isInside =
-        path.size() > prefix.size() && path.compare(0, prefix.size(), prefix) == 0;
-    return printable(isInside ? path.substr(prefix.size()) : path);
-  }
+  std::string shown(const std::string& path) const { return shownFrom(project_.folder, path); }
 
   std::string missingMark(bool isMissing) const {
     return isMissing ? "  " + style_.problem("(missing)") : std::string();

@@ -2,8 +2,6 @@
 
 #include <iostream>
 #include <memory>
-#include <optional>
-#include <string>
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
@@ -13,17 +11,12 @@
 #include "tools/tervix/ProjectJson.h"
 #include "tools/tervix/ProjectTree.h"
 #include "tools/tervix/ProjectView.h"
+#include "tools/tervix/commands/OpenOptions.h"
 
 namespace tervix::tool {
 namespace {
 
-struct ShowOptions {
-  std::string file;
-  std::optional<int> frontEnd;
-  bool asJson = false;
-};
-
-void show(const ShowOptions& options) {
+void show(const OpenOptions& options) {
   const ProjectView view = viewOf(openProject(options.file, options.frontEnd));
   if (options.asJson)
     std::cout << jsonOf(view) << "\n";
@@ -34,18 +27,9 @@ void show(const ShowOptions& options) {
 } // namespace
 
 void addShowCommand(CLI::App& app) {
-  auto options = std::make_shared<ShowOptions>();
+  auto options = std::make_shared<OpenOptions>();
   CLI::App* command = app.add_subcommand("show", "Open a project and print its tree");
-  command->add_option("FILE", options->file, "A .tvp, .sim, .aap or .$ap file")
-      ->required()
-      ->type_name("");
-  command
-      ->add_option("--front-end", options->frontEnd,
-                   "0 for .sim and .aap files; 1 or 2 for a .tvp file, chosen from its folder "
-                   "unless given")
-      ->check(CLI::Range(0, 2))
-      ->option_text("N");
-  command->add_flag("--json", options->asJson, "Print JSON instead of a tree");
+  addOpenOptions(*command, *options);
   command->callback([options] { show(*options); });
 }
 

@@ -12,6 +12,7 @@
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/ShowCommand.h"
 #include "tools/tervix/commands/DesignCommand.h"
+#include "tools/tervix/commands/FilesCommand.h"
 #include "tools/tervix/commands/ProfileCommand.h"
 #include "tools/tervix/commands/ProjectCommand.h"
 #include "tools/tervix/commands/SchematicCommand.h"
@@ -57,6 +58,7 @@ int run(int argc, char** argv) {
   app.require_subcommand(1);
   app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
   addShowCommand(app);
+  addFilesCommand(app);
   addProfileCommand(app);
   addSchematicCommand(app);
   addDesignCommand(app);

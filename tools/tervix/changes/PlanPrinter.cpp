@@ -1,7 +1,6 @@
 #include "tools/tervix/changes/PlanPrinter.h"
 
-#include <nlohmann/json.hpp>
-
+#include "tools/tervix/Json.h"
 #include "tools/tervix/Printable.h"
 
 namespace tervix::tool {
@@ -53,7 +52,6 @@ void printPlan(std::ostream& out, const ChangePlan& plan, bool done) {
 }
 
 void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done) {
-  using Json = nlohmann::ordered_json;
   Json steps = Json::array();
   for (const Step& step : stepsOf(plan)) {
     Json json = {{"action", step.action}, {"path", step.path}};
@@ -66,7 +64,7 @@ void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done) {
                      {"done", done},
                      {"project", plan.projectFile},
                      {"steps", steps}};
-  out << json.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+  out << textOf(json) << "\n";
 }
 
 } // namespace tervix::tool

@@ -8,14 +8,8 @@
 namespace tervix::tool {
 
 void addChangeOptions(CLI::App& command, ChangeOptions& options) {
-  command.add_option("FILE", options.file, "The project file (.tvp), or a .sim or .aap file of it")
-      ->required()
-      ->type_name("");
-  command.add_option("--front-end", options.frontEnd, "As for show")
-      ->check(CLI::Range(0, 2))
-      ->option_text("N");
+  addOpenOptions(command, options);
   command.add_flag("--dry-run", options.dryRun, "Print what would be done, and touch nothing");
-  command.add_flag("--json", options.asJson, "Print JSON");
 }
 
 void addKeepOldOption(CLI::App& command, ChangeOptions& options) {

@@ -1,21 +1,15 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-
 #include <CLI/App.hpp>
 
 #include "tools/tervix/changes/ChangePlan.h"
+#include "tools/tervix/commands/OpenOptions.h"
 
 namespace tervix::tool {
 
 // What every command that changes a project takes.
-struct ChangeOptions {
-  std::string file;
-  std::optional<int> frontEnd;
+struct ChangeOptions : OpenOptions {
   bool dryRun = false;
-  bool asJson = false;
   bool keepOld = false;
 };
 

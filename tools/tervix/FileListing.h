@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "tools/tervix/ProjectView.h"
+#include "tools/tervix/Style.h"
+#include "tools/tervix/changes/Lookup.h"
+
+namespace tervix::tool {
+
+// The schematics and profiles of a project whose files are listed.
+struct FileListing {
+  const ProjectView& project;
+  std::vector<std::reference_wrapper<const SchematicView>> schematics;
+  std::vector<FoundProfile> profiles;
+};
+
+// Prints a table for each schematic, and below it one for each of its profiles.
+void printListing(std::ostream& out, const FileListing& listing, const Style& style);
+
+// The listing as JSON text; its shape is described in docs/files-json.md and stays stable.
+std::string jsonOf(const FileListing& listing);
+
+} // namespace tervix::tool

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include <CLI/App.hpp>
+
+namespace tervix::tool {
+
+// What every command that opens a project takes.
+struct OpenOptions {
+  std::string file;
+  std::optional<int> frontEnd;
+  bool asJson = false;
+};
+
+void addOpenOptions(CLI::App& command, OpenOptions& options);
+
+} // namespace tervix::tool
