@@ -16,8 +16,8 @@ enum NODE_TYPE : int {
 
 enum FRONTEND_ID : int {
   FRONTEND_ID_UNSET = 0,
-  FRONTEND_ID_PROJECT_FILE = 1, // the project was opened through its project file
-  FRONTEND_ID_DESIGN_FILE = 2   // the project was opened through its design file
+  FRONTEND_ID_PROJECT_FILE = 1, // the folder names the design; profiles are found on disk
+  FRONTEND_ID_DESIGN_FILE = 2   // a design file lists schematics, the project file profiles
 };
 
 enum PROJECT_TYPE : int {

@@ -48,10 +48,16 @@ TEST_F(IncompleteProject, MayLackAProfileThatItLists) {
   fs::remove(copy_.path("amp-TervixFiles/TOP/ac.sim"));
   expectLine("profile file  ./amp-TervixFiles/TOP/ac.sim  (missing)");
   EXPECT_EQ(tree().find("TOP-ac"), std::string::npos);
-  EXPECT_EQ(json()["missingProfiles"],
+  EXPECT_EQ(json()["unusedProfiles"],
             (nlohmann::ordered_json{{{"name", "./amp-TervixFiles/TOP/ac.sim"},
                                      {"path", copy_.path("amp-TervixFiles/TOP/ac.sim")},
                                      {"exists", false}}}));
+}
+
+TEST_F(IncompleteProject, MayListAProfileFileThatIsNotValid) {
+  writeFile(copy_.path("amp-TervixFiles/TOP/ac.sim"), "");
+  expectLine("profile file  ./amp-TervixFiles/TOP/ac.sim  (not a profile of this project)");
+  EXPECT_EQ(json()["unusedProfiles"][0]["exists"], true);
 }
 
 TEST_F(IncompleteProject, HasNoActiveProfileWhenThatIsMissing) {
@@ -108,7 +114,7 @@ TEST_F(IncompleteProject, HasNoFileWhereAFolderStands) {
 TEST(CompleteProject, HasNothingMissing) {
   for (const Sample& sample : allSamples()) {
     const SampleCopy copy(sample);
-    EXPECT_EQ(shownAsJson({copy.project()})["missingProfiles"], nlohmann::ordered_json::array());
+    EXPECT_EQ(shownAsJson({copy.project()})["unusedProfiles"], nlohmann::ordered_json::array());
     EXPECT_EQ(shown({copy.project()}).find("(missing)"), std::string::npos) << sample;
   }
 }

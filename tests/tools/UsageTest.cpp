@@ -17,6 +17,8 @@ TEST(WrongUsage, IsAnUnknownCommand) {
   expectFailure(2, std::string("there is no command \"tell\"") + kHint, {"tell"});
   expectFailure(2, std::string("there is no command \"amp.tvp\"") + kHint, {"amp.tvp"});
   expectFailure(2, std::string("there is no command \"\"") + kHint, {""});
+  expectFailure(2, std::string("there is no command \"profile frob\"") + kHint,
+                {"profile", "frob", "amp.tvp"});
 }
 
 TEST(WrongUsage, IsAnUnknownOption) {
@@ -33,6 +35,11 @@ TEST(WrongUsage, IsACommandWithoutItsFile) {
 TEST(WrongUsage, IsASecondFile) {
   expectFailure(2, std::string("The following argument was not expected: b.tvp") + kHint,
                 {"show", "a.tvp", "b.tvp"});
+}
+
+TEST(WrongUsage, IsASchematicWithoutAName) {
+  expectFailure(2, std::string("--schematic: it is empty") + kHint,
+                {"profile", "add", "amp.tvp", "x", "--schematic", ""});
 }
 
 TEST(WrongUsage, IsAFrontEndThatDoesNotExist) {
@@ -58,7 +65,8 @@ TEST(Help, TellsTheCommandsAndTheExitStatuses) {
     const ToolRun run = runTool({option});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
-    for (const char* word : {"tervix", "show", "files", "--version", "0 done, 1 failed, 2 wrong usage"})
+    for (const char* word :
+         {"tervix", "show", "files", "--version", "0 done, 1 failed, 2 wrong usage"})
       EXPECT_NE(run.output.find(word), std::string::npos) << run.output;
   }
 }

@@ -56,6 +56,16 @@ std::string printable(std::string_view text) {
   return result;
 }
 
+bool isUtf8(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t length = characterLength(text, at);
+    if (length == 0)
+      return false;
+    at += length;
+  }
+  return true;
+}
+
 std::string inQuotes(std::string_view text) {
   return "\"" + printable(text) + "\"";
 }

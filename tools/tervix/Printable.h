@@ -9,6 +9,8 @@ namespace tervix::tool {
 // strange file name cannot drive the terminal.
 std::string printable(std::string_view text);
 
+bool isUtf8(std::string_view text);
+
 // text as a person's message names a file: printable and between quotes.
 std::string inQuotes(std::string_view text);
 

@@ -61,7 +61,7 @@ std::string jsonOf(const ProjectView& project) {
       {"activeProfile", project.activeProfile},
       {"designLevelFiles", arrayOf(project.variants, jsonOfVariant)},
       {"schematics", arrayOf(project.schematics, jsonOfSchematic)},
-      {"missingProfiles", arrayOf(project.missingProfiles, jsonOfNamedFile)}};
+      {"unusedProfiles", arrayOf(project.unusedProfiles, jsonOfNamedFile)}};
   return textOf(json);
 }
 

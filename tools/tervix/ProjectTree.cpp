@@ -28,8 +28,10 @@ public:
     appendVariants(top, "design-level files", project_.variants);
     for (const SchematicView& schematic : project_.schematics)
       top.below.push_back(branchOf(schematic));
-    for (const FileView& file : project_.missingProfiles)
-      top.below.push_back({"profile file  " + printable(file.path) + missingMark(true), {}});
+    for (const FileView& file : project_.unusedProfiles)
+      top.below.push_back({"profile file  " + printable(file.path) +
+                               mark(file.exists ? "(not a profile of this project)" : "(missing)"),
+                           {}});
     return top;
   }
 
@@ -58,8 +60,10 @@ private:
   std::string shown(const std::string& path) const { return shownFrom(project_.folder, path); }
 
   std::string missingMark(bool isMissing) const {
-    return isMissing ? "  " + style_.problem("(missing)") : std::string();
+    return isMissing ? mark("(missing)") : std::string();
   }
+
+  std::string mark(const char* text) const { return "  " + style_.problem(text); }
 
   Branch branchOf(const SchematicView& schematic) const {
     Branch branch{"schematic " + headingOf(schematic.name), {}};

@@ -87,19 +87,28 @@ SchematicView viewOf(CTervixSchematic& schematic) {
   return view;
 }
 
-// The profile files that the project file lists and that the library, as they are not there, passed
-// over.
-std::vector<FileView> missingProfiles(const std::string& projectFile, const std::string& folder) {
+bool isInTree(const std::vector<SchematicView>& schematics, const std::string& sim) {
+  for (const SchematicView& schematic : schematics)
+    for (const ProfileView& profile : schematic.profiles)
+      if (profile.sim.place == sim)
+        return true;
+  return false;
+}
+
+// The profile files that the project file lists and that the library passed over, as they are not
+// there or not valid.
+std::vector<FileView> unusedProfiles(const std::string& projectFile, const std::string& folder,
+                                     const std::vector<SchematicView>& schematics) {
   std::list<std::string> listed;
   std::list<std::string> unused;
   std::string active;
-  std::vector<FileView> missing;
+  std::vector<FileView> passedOver;
   if (readSimProfiles(projectFile, listed, unused, active, true) != 0)
-    return missing;
+    return passedOver;
   for (const std::string& path : listed)
-    if (FileView file = namedFile("sim", path, folder); !file.exists)
-      missing.push_back(std::move(file));
-  return missing;
+    if (FileView file = namedFile("sim", path, folder); !isInTree(schematics, file.place))
+      passedOver.push_back(std::move(file));
+  return passedOver;
 }
 
 } // namespace
@@ -129,7 +138,7 @@ ProjectView viewOf(CTervixProject& project) {
   for (; schematic != nullptr; project.getNextSchematic(schematic))
     view.schematics.push_back(viewOf(static_cast<CTervixSchematic&>(*schematic)));
   if (view.frontEnd == FRONTEND_ID_DESIGN_FILE)
-    view.missingProfiles = missingProfiles(view.path, view.folder);
+    view.unusedProfiles = unusedProfiles(view.path, view.folder, view.schematics);
   return view;
 }
 

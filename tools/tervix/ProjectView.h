@@ -50,7 +50,7 @@ struct ProjectView {
   std::string activeProfile;
   std::vector<FileView> variants;
   std::vector<SchematicView> schematics;
-  std::vector<FileView> missingProfiles; // listed in the project file, but not there
+  std::vector<FileView> unusedProfiles; // listed in the project file, but missing or not valid
 };
 
 ProjectView viewOf(CTervixProject& project);

@@ -43,9 +43,16 @@ int answer(const CLI::App& app, const CLI::ParseError& error) {
     finishOutput();
     return kDone;
   }
-  const std::vector<std::string> unknown = app.remaining();
-  if (app.get_subcommands().empty() && !unknown.empty() && unknown.front().rfind('-', 0) != 0)
-    throw Failure("there is no command " + inQuotes(unknown.front()) +
+  const CLI::App* command = &app;
+  std::string name;
+  while (!command->get_subcommands().empty()) {
+    command = command->get_subcommands().front();
+    name += command->get_name() + " ";
+  }
+  const std::vector<std::string> unknown = app.remaining(true);
+  if (command->get_require_subcommand_min() > 0 && !unknown.empty() &&
+      unknown.front().rfind('-', 0) != 0)
+    throw Failure("there is no command " + inQuotes(name + unknown.front()) +
                       "\nRun with --help for more information.",
                   kWrongUsage);
   std::cerr << "tervix: " << printableLines(mistake.str());

@@ -39,24 +39,31 @@ const SchematicView& schematicForNew(const ProjectView& project, const std::stri
   for (const SchematicView& schematic : project.schematics)
     if (schematic.root || project.schematics.size() == 1)
       return schematic;
+  if (project.schematics.empty())
+    throw Failure("the project has no schematic");
   throw Failure("no root schematic; name one with --schematic: " + schematicsOf(project));
 }
 
 FoundProfile profileNamed(const ProjectView& project, const std::string& schematic,
                           const std::string& name) {
   std::vector<FoundProfile> found;
+  std::vector<FoundProfile> foundByDisplayName;
   std::vector<std::string> all;
   for (const SchematicView& candidate : project.schematics) {
     if (!schematic.empty() && !isSameName(candidate.name, schematic))
       continue;
     for (const ProfileView& profile : candidate.profiles) {
       all.push_back(profile.displayName);
-      if (isSameName(profile.name, name) || isSameName(profile.displayName, name))
+      if (isSameName(profile.name, name))
         found.push_back({candidate, profile});
+      else if (isSameName(profile.displayName, name))
+        foundByDisplayName.push_back({candidate, profile});
     }
   }
   if (!schematic.empty())
     schematicNamed(project, schematic);
+  if (found.empty())
+    found.swap(foundByDisplayName);
   if (found.empty())
     throw Failure("there is no profile " + inQuotes(name) + "; there are: " + listed(all));
   if (found.size() > 1)

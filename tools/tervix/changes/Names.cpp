@@ -4,6 +4,7 @@
 #include <array>
 
 #include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 
 namespace tervix::tool {
 namespace {
@@ -30,6 +31,9 @@ const char* reasonAgainst(const std::string& name) {
   const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; };
   if (std::any_of(name.begin(), name.end(), isControl))
     return "it holds a control character";
+  // Project and design files hold text, and JSON too.
+  if (!isUtf8(name))
+    return "it is no valid UTF-8";
   if (name.front() == ' ' || name.back() == ' ')
     return "it begins or ends with a blank";
   if (name.size() > kLongestName)
@@ -49,7 +53,7 @@ bool isSameName(const std::string& a, const std::string& b) {
 
 void requireUsableName(const std::string& name, const char* what) {
   if (const char* reason = reasonAgainst(name))
-    throw Failure("a " + std::string(what) + " cannot be named \"" + name + "\": " + reason);
+    throw Failure("a " + std::string(what) + " cannot be named " + inQuotes(name) + ": " + reason);
 }
 
 } // namespace tervix::tool

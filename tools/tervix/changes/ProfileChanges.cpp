@@ -1,6 +1,8 @@
 #include "tools/tervix/changes/ProfileChanges.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <optional>
 
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
@@ -60,6 +62,74 @@ std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
   });
 }
 
+// A file or folder that is there already would become the new profile's, and be deleted with it.
+void requireNothingThere(const ProfilePlaces& places, bool hasFolder) {
+  std::vector<std::string> paths = places.files;
+  paths.push_back(places.sim);
+  if (hasFolder)
+    paths.push_back(places.folder);
+  for (const std::string& path : paths)
+    if (fs::exists(fs::symlink_status(path)))
+      throw Failure(inQuotes(path) + " is there already and would become part of the new profile");
+}
+
+// What a profile is called in its ".sim" file decides where the library looks for its files.
+FoundProfile profileWithFile(const ProjectView& view, const std::string& schematic,
+                             const std::string& name) {
+  const FoundProfile found = profileNamed(view, schematic, name);
+  if (!found.profile.sim.exists)
+    throw Failure("profile " + inQuotes(found.profile.name) + " has no file " +
+                  inQuotes(found.profile.sim.place) +
+                  "; does the name in its .sim file differ from the file's?");
+  return found;
+}
+
+struct UnusedProfile {
+  std::string schematic;
+  std::string name;
+  std::string sim;
+};
+
+// The registered file that belongs to the name in any case and is no valid profile, or is not
+// there: the library passed it over.
+std::optional<UnusedProfile> unusedProfile(const ProjectView& view, const ProjectLayout& layout,
+                                           const std::string& schematic, const std::string& name) {
+  for (const SchematicView& candidate : view.schematics) {
+    if (!schematic.empty() && !isSameName(candidate.name, schematic))
+      continue;
+    const std::string sim = layout.placesOf(candidate.name, name).sim;
+    for (const FileView& file : view.unusedProfiles)
+      if (isSameName(file.place, sim)) {
+        const std::size_t start = sim.size() - std::string(".sim").size() - name.size();
+        return UnusedProfile{candidate.name, file.place.substr(start, name.size()), file.place};
+      }
+  }
+  return std::nullopt;
+}
+
+void unregister(ChangePlan& plan, OpenFormatFile& file, const ProjectLayout& layout,
+                const std::string& sim) {
+  file.removeProfiles([&](const std::string& text) {
+    return placeOf({text, layout.folder}) == sim;
+  });
+  plan.rewritten.push_back({layout.projectFile, file.text()});
+}
+
+// Such a profile is no part of the tree: all but what is registered and on disk stays the same.
+ChangePlan planUnusedDelete(const ProjectView& view, const ProjectLayout& layout,
+                            const UnusedProfile& profile) {
+  ChangePlan plan;
+  plan.title = "delete profile " + profile.name + " of schematic " + profile.schematic;
+  plan.projectFile = layout.projectFile;
+  const ExpectedTree expected = treeOf(view);
+  removeProfileFiles(plan, layout, profile.schematic, profile.name);
+  keepFilesNamedBy(plan, view, expected);
+  OpenFormatFile file(layout.projectFile);
+  unregister(plan, file, layout, profile.sim);
+  checkTree(plan, layout, expected);
+  return plan;
+}
+
 } // namespace
 
 ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicName,
@@ -71,14 +141,19 @@ ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicN
   requireFreeProfileName(schematic, name, "");
   const ProfilePlaces places = layout.placesOf(schematic.name, name);
 
+  requireNothingThere(places, layout.isSimulation());
+
   ChangePlan plan;
   plan.title = "add profile " + name + " to schematic " + schematic.name;
   plan.projectFile = layout.projectFile;
   plan.made.push_back({places.sim, "", simTextFor(layout, view, schematic.name, name), false});
   if (layout.hasDesignFile()) {
     OpenFormatFile file(layout.projectFile);
-    file.addProfile(seenFrom(layout.folder, places.sim));
-    plan.rewritten.push_back({layout.projectFile, file.text()});
+    const auto isIt = [&](const FileView& listed) { return listed.place == places.sim; };
+    if (std::none_of(view.unusedProfiles.begin(), view.unusedProfiles.end(), isIt)) {
+      file.addProfile(seenFrom(layout.folder, places.sim));
+      plan.rewritten.push_back({layout.projectFile, file.text()});
+    }
   }
   ExpectedTree expected = treeOf(view);
   expected.insert({schematic.name, name});
@@ -89,7 +164,7 @@ ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicN
 ChangePlan planProfileCopy(CTervixProject& project, const std::string& schematicName,
                            const std::string& name, const std::string& newName) {
   Renaming copying(project);
-  const auto [schematic, profile] = profileNamed(copying.view(), schematicName, name);
+  const auto [schematic, profile] = profileWithFile(copying.view(), schematicName, name);
   requireUsableName(newName, "profile");
   requireFreeProfileName(schematic, newName, "");
   return copying.planCopy(schematic.name, profile.name, newName,
@@ -99,7 +174,7 @@ ChangePlan planProfileCopy(CTervixProject& project, const std::string& schematic
 ChangePlan planProfileRename(CTervixProject& project, const std::string& schematicName,
                              const std::string& name, const std::string& newName) {
   Renaming renaming(project);
-  const auto [schematic, profile] = profileNamed(renaming.view(), schematicName, name);
+  const auto [schematic, profile] = profileWithFile(renaming.view(), schematicName, name);
   requireUsableName(newName, "profile");
   if (profile.name == newName)
     throw Failure("the profile is named " + inQuotes(newName) + " already");
@@ -112,7 +187,9 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
                              const std::string& name) {
   const ProjectView view = viewOf(project);
   const ProjectLayout layout = layoutOf(project);
-  const auto [schematic, profile] = profileNamed(view, schematicName, name);
+  if (const auto unused = unusedProfile(view, layout, schematicName, name))
+    return planUnusedDelete(view, layout, *unused);
+  const auto [schematic, profile] = profileWithFile(view, schematicName, name);
   ChangePlan plan;
   plan.title = "delete profile " + profile.name + " of schematic " + schematic.name;
   plan.projectFile = layout.projectFile;
@@ -122,11 +199,8 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
   keepFilesNamedBy(plan, view, expected);
   if (layout.hasDesignFile()) {
     OpenFormatFile file(layout.projectFile);
-    file.removeProfiles([&, sim = profile.sim.place](const std::string& text) {
-      return placeOf({text, layout.folder}) == sim;
-    });
     file.renameActive(profile.displayName, "");
-    plan.rewritten.push_back({layout.projectFile, file.text()});
+    unregister(plan, file, layout, profile.sim.place);
     checkTree(plan, layout, expected);
   }
   return plan;

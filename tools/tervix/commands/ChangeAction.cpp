@@ -21,7 +21,8 @@ void addChangeAction(CLI::App& command, const ChangeAction& action) {
     sub->add_option("NEW", names.newName, action.newNameHelp)->required()->type_name("");
   if (action.takesSchematic)
     sub->add_option("--schematic", names.schematic, "The schematic that holds it")
-        ->option_text("S");
+        ->option_text("S")
+        ->check([](const std::string& name) { return name.empty() ? "it is empty" : ""; });
   if (action.removesFiles)
     addKeepOldOption(*sub, *options);
   sub->callback([options, plan = action.plan] {
