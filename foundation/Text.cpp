@@ -1,6 +1,7 @@
 #include "foundation/Text.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tervix {
 namespace {
@@ -13,6 +14,66 @@ template <class Map> std::string mapped(std::string_view text, Map map) {
   std::string result(text);
   std::transform(result.begin(), result.end(), result.begin(), map);
   return result;
+}
+
+// Texts are compared and hashed eight characters at a time.
+using Word = std::uint64_t;
+
+constexpr Word everyByte(unsigned char byte) {
+  return 0x0101010101010101U * byte;
+}
+
+// The next word of text, padded with zeros at its end.
+Word takeWord(std::string_view& text) {
+  Word word = 0;
+  if (text.size() >= sizeof word) {
+    std::memcpy(&word, text.data(), sizeof word);
+    text.remove_prefix(sizeof word);
+  } else {
+    std::memcpy(&word, text.data(), text.size());
+    text = {};
+  }
+  return word;
+}
+
+// Makes every "A" to "Z" a small letter.
+Word foldCase(Word word) {
+  const Word sevenBits = word & everyByte(0x7F);
+  const Word fromA = sevenBits + everyByte(0x80 - 'A');
+  const Word beyondZ = sevenBits + everyByte(0x7F - 'Z');
+  const Word isCapital = (fromA ^ beyondZ) & ~word & everyByte(0x80);
+  return word | (isCapital >> 2);
+}
+
+// Makes every backslash a "/", too.
+Word foldPath(Word word) {
+  const Word difference = word ^ everyByte('\\');
+  const Word differs = ((difference & everyByte(0x7F)) + everyByte(0x7F)) | difference;
+  const Word isBackslash = (~differs & everyByte(0x80)) >> 7;
+  return foldCase(word ^ isBackslash * ('\\' ^ '/'));
+}
+
+template <class Fold> bool equalsFolded(std::string_view a, std::string_view b, Fold fold) {
+  if (a.size() != b.size())
+    return false;
+  while (!a.empty()) {
+    const Word x = takeWord(a);
+    const Word y = takeWord(b);
+    if (x != y && fold(x) != fold(y))
+      return false;
+  }
+  return true;
+}
+
+template <class Fold> std::uint64_t hashFolded(std::string_view text, Fold fold) {
+  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15U;
+  constexpr unsigned int kHalf = 32;
+  std::uint64_t hash = text.size();
+  while (!text.empty()) {
+    hash = (hash ^ fold(takeWord(text))) * kMultiplier;
+    hash ^= hash >> kHalf;
+  }
+  return hash;
 }
 
 } // namespace
@@ -34,8 +95,7 @@ std::string toBackslashes(std::string_view path) {
 }
 
 bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return toLowerCase(x) == toLowerCase(y); });
+  return equalsFolded(a, b, foldCase);
 }
 
 bool startsWithIgnoringCase(std::string_view text, std::string_view prefix) {
@@ -52,9 +112,15 @@ bool contains(std::string_view text, std::string_view piece) {
 }
 
 bool equalsAsPath(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return toLowerCase(separatorFolded(x)) == toLowerCase(separatorFolded(y));
-  });
+  return equalsFolded(a, b, foldPath);
+}
+
+std::uint64_t hashIgnoringCase(std::string_view text) {
+  return hashFolded(text, foldCase);
+}
+
+std::uint64_t hashAsPath(std::string_view path) {
+  return hashFolded(path, foldPath);
 }
 
 std::optional<std::string_view> stripPrefix(std::string_view text, std::string_view prefix) {

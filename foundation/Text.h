@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,10 @@ bool contains(std::string_view text, std::string_view piece);
 
 // Whether two paths are spelt alike but for case and the kind of their separators.
 bool equalsAsPath(std::string_view a, std::string_view b);
+
+// Hashes that are equal for texts that equalsIgnoringCase, or equalsAsPath, takes for equal.
+std::uint64_t hashIgnoringCase(std::string_view text);
+std::uint64_t hashAsPath(std::string_view path);
 
 // What is left of text without a prefix or suffix that it has in whatever case.
 std::optional<std::string_view> stripPrefix(std::string_view text, std::string_view prefix);

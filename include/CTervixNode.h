@@ -5,6 +5,11 @@
 
 #include "TervixExport.h"
 
+namespace tervix { // the library's own
+struct NodeAccess;
+struct NodeCell;
+} // namespace tervix
+
 // In each of these enumerations 0 means "not set".
 
 enum NODE_TYPE : int {
@@ -69,6 +74,8 @@ public:
   unsigned long createFolder(std::string& folderPath);
 
 private:
+  friend struct tervix::NodeAccess;
+
   std::string name_;
   NODE_TYPE type_ = NODE_TYPE_UNSET;
   CTervixNode* parent_ = nullptr;
@@ -76,6 +83,8 @@ private:
   std::string folderPath_;
   FRONTEND_ID frontEndId_ = FRONTEND_ID_UNSET;
   PROJECT_TYPE projectType_ = PROJECT_TYPE_UNSET;
+  // The node's places in lists, which are told when its name or path changes; not copied.
+  tervix::NodeCell* cells_ = nullptr;
 };
 
 #endif

@@ -2,11 +2,19 @@
 #define CTERVIX_NODE_LIST_H
 
 #include <list>
+#include <memory>
 #include <string>
 
 #include "TervixExport.h"
 
 class CTervixNode;
+
+namespace tervix { // the library's own
+struct NodeCell;
+class NodeIndex;
+class NodeListing;
+enum class NodeKey;
+} // namespace tervix
 
 // An ordered list of nodes with one cursor.
 //
@@ -68,18 +76,25 @@ public:
   unsigned long numberOfNodes(int& count) const;
 
 private:
+  friend class CTervixSchematic;
   friend class TreeWalk;
-  using Cells = std::list<CTervixNode*>;
+  friend class tervix::NodeListing;
+  using Cells = std::list<tervix::NodeCell>;
 
   TERVIX_LOCAL bool accepts(CTervixNode* node, unsigned long& status);
-  TERVIX_LOCAL void insert(Cells::const_iterator position, CTervixNode* node);
+  TERVIX_LOCAL void fill(tervix::NodeCell& cell, const tervix::NodeCell& source);
+  TERVIX_LOCAL void insert(Cells::iterator position, const tervix::NodeCell& source);
+  TERVIX_LOCAL void insert(Cells::iterator position, CTervixNode* node);
   TERVIX_LOCAL Cells::iterator remove(Cells::iterator cell);
-  TERVIX_LOCAL Cells::iterator cellNamed(const std::string& name);
-  TERVIX_LOCAL Cells::iterator cellWithPath(const std::string& path);
+  TERVIX_LOCAL Cells::iterator cellOf(tervix::NodeKey key, const std::string& text);
 
   Cells nodes_;
   int count_ = 0;
   Cells::iterator cursor_;
+  // Made when a node is first looked for.
+  mutable std::unique_ptr<tervix::NodeIndex> index_;
+  // The node whose inner list this is.
+  CTervixNode* holder_ = nullptr;
 };
 
 #endif

@@ -170,6 +170,7 @@ public:
   unsigned long syncUpProfileFiles(std::string& oldPath, std::string& newPath);
 
 private:
+  friend struct tervix::NodeAccess;
   TERVIX_LOCAL unsigned long findProfileLevelFile(bool& found, std::string*& entry,
                                                   std::string& file, VARIANTFILE_TYPE type);
   TERVIX_LOCAL unsigned long getFilePathFromProfile(std::string& path, std::string& suffix);

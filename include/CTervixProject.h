@@ -348,6 +348,7 @@ public:
 
 private:
   friend class TreeWalk;
+  friend struct tervix::NodeAccess;
 
   TERVIX_LOCAL unsigned long setProjectInfoForTvp(std::string& projectFilePath,
                                                   FRONTEND_ID frontEnd, std::string& projectName,

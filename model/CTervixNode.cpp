@@ -2,6 +2,7 @@
 
 #include "TervixFiles.h"
 #include "foundation/LastError.h"
+#include "model/NodeListing.h"
 
 namespace {
 
@@ -9,6 +10,12 @@ unsigned long setText(std::string& field, const std::string& value) {
   if (!value.empty())
     field = value;
   return 0;
+}
+
+unsigned long setKey(CTervixNode& node, tervix::NodeKey key, std::string& field,
+                     const std::string& value) {
+  const tervix::KeyChange change(node, key);
+  return setText(field, value);
 }
 
 unsigned long getText(const std::string& field, std::string& value) {
@@ -32,8 +39,13 @@ template <class Value> unsigned long getValue(const Value& field, Value& value) 
 } // namespace
 
 CTervixNode::CTervixNode() = default;
-CTervixNode::CTervixNode(const CTervixNode& other) = default;
-CTervixNode::~CTervixNode() = default;
+CTervixNode::CTervixNode(const CTervixNode& other)
+    : name_(other.name_), type_(other.type_), parent_(other.parent_), path_(other.path_),
+      folderPath_(other.folderPath_), frontEndId_(other.frontEndId_),
+      projectType_(other.projectType_) {}
+CTervixNode::~CTervixNode() {
+  tervix::NodeListing::forget(*this);
+}
 
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment,misc-unconventional-assign-operator)
 CTervixNode& CTervixNode::operator=(const CTervixNode&) {
@@ -44,10 +56,10 @@ unsigned long CTervixNode::clone(CTervixNode&) {
 }
 
 unsigned long CTervixNode::setName(std::string& name) {
-  return setText(name_, name);
+  return setKey(*this, tervix::NodeKey::kName, name_, name);
 }
 unsigned long CTervixNode::setPath(std::string& path) {
-  return setText(path_, path);
+  return setKey(*this, tervix::NodeKey::kPath, path_, path);
 }
 unsigned long CTervixNode::setFolderPath(std::string& folderPath) {
   return setText(folderPath_, folderPath);

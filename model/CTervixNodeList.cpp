@@ -1,28 +1,31 @@
 #include "CTervixNodeList.h"
 
-#include <algorithm>
 #include <iterator>
-#include <unordered_set>
 
 #include "CTervixNode.h"
 #include "foundation/LastError.h"
 #include "foundation/Text.h"
+#include "model/NodeAccess.h"
 #include "model/NodeFields.h"
+#include "model/NodeListing.h"
 #include "model/ProjectLink.h"
 
 CTervixNodeList::CTervixNodeList() : cursor_(nodes_.end()) {}
 
-CTervixNodeList::CTervixNodeList(const CTervixNodeList& other)
-    : nodes_(other.nodes_), count_(other.count_), cursor_(nodes_.begin()) {
-  std::advance(cursor_, std::distance(other.nodes_.begin(), Cells::const_iterator(other.cursor_)));
+CTervixNodeList::CTervixNodeList(const CTervixNodeList& other) : cursor_(nodes_.end()) {
+  for (auto cell = other.nodes_.begin(); cell != other.nodes_.end(); ++cell) {
+    insert(nodes_.end(), *cell);
+    if (cell == Cells::const_iterator(other.cursor_))
+      cursor_ = std::prev(nodes_.end());
+  }
 }
 
 CTervixNodeList::~CTervixNodeList() {
-  // A node that is listed twice is deleted once.
-  std::unordered_set<CTervixNode*> deleted;
-  for (CTervixNode* node : nodes_)
-    if (deleted.insert(node).second)
-      delete node;
+  index_.reset();
+  // A node that is listed twice is deleted once: its other cells outlive it then.
+  for (const tervix::NodeCell& cell : nodes_)
+    if (cell.isAlive())
+      delete cell.node;
 }
 
 CTervixNodeList& CTervixNodeList::operator=(const CTervixNodeList& other) {
@@ -30,59 +33,75 @@ CTervixNodeList& CTervixNodeList::operator=(const CTervixNodeList& other) {
     return *this;
   auto cell = nodes_.begin();
   auto source = other.nodes_.begin();
-  for (; cell != nodes_.end() && source != other.nodes_.end(); ++cell, ++source)
-    *cell = *source;
-  nodes_.insert(nodes_.end(), source, other.nodes_.end());
-  while (cell != nodes_.end() && source == other.nodes_.end())
+  for (; cell != nodes_.end() && source != other.nodes_.end(); ++cell, ++source) {
+    tervix::NodeListing::delist(*cell);
+    fill(*cell, *source);
+  }
+  for (; source != other.nodes_.end(); ++source)
+    insert(nodes_.end(), *source);
+  while (cell != nodes_.end())
     cell = remove(cell);
-  count_ = other.count_;
   return *this;
 }
 
-void CTervixNodeList::insert(Cells::const_iterator position, CTervixNode* node) {
-  nodes_.insert(position, node);
+// Puts a node into a cell that has none. A node that was destroyed stays a mere pointer.
+void CTervixNodeList::fill(tervix::NodeCell& cell, const tervix::NodeCell& source) {
+  cell.node = source.node;
+  cell.list = source.isAlive() ? this : nullptr;
+  if (cell.isAlive())
+    tervix::NodeListing::enlist(cell);
+}
+
+// At the front or at the back.
+void CTervixNodeList::insert(Cells::iterator position, const tervix::NodeCell& source) {
+  long long order = 0;
+  if (!nodes_.empty())
+    order = position == nodes_.begin() ? nodes_.front().order - 1 : nodes_.back().order + 1;
+  const auto cell = nodes_.emplace(position);
+  cell->order = order;
+  cell->self = cell;
+  fill(*cell, source);
   ++count_;
+}
+
+void CTervixNodeList::insert(Cells::iterator position, CTervixNode* node) {
+  tervix::NodeCell source;
+  source.node = node;
+  source.list = this;
+  insert(position, source);
 }
 
 CTervixNodeList::Cells::iterator CTervixNodeList::remove(Cells::iterator cell) {
   if (cursor_ == cell)
     cursor_ = nodes_.end();
   --count_;
+  tervix::NodeListing::delist(*cell);
   return nodes_.erase(cell);
 }
 
-CTervixNodeList::Cells::iterator CTervixNodeList::cellNamed(const std::string& name) {
-  return std::find_if(nodes_.begin(), nodes_.end(), [&](const CTervixNode* node) {
-    const std::string listed = tervix::nameOf(*node);
-    return !listed.empty() && tervix::equalsIgnoringCase(listed, name);
-  });
-}
-
-CTervixNodeList::Cells::iterator CTervixNodeList::cellWithPath(const std::string& path) {
-  return std::find_if(nodes_.begin(), nodes_.end(), [&](const CTervixNode* node) {
-    const std::string listed = tervix::pathOf(*node);
-    return !listed.empty() && tervix::equalsAsPath(listed, path);
-  });
+CTervixNodeList::Cells::iterator CTervixNodeList::cellOf(tervix::NodeKey key,
+                                                         const std::string& text) {
+  const tervix::NodeCell* cell = tervix::NodeListing::indexOf(*this).find(key, text);
+  return cell != nullptr ? cell->self : nodes_.end();
 }
 
 // Whether node is to be inserted; if not, status tells why.
 bool CTervixNodeList::accepts(CTervixNode* node, unsigned long& status) {
-  std::string name;
-  if (node == nullptr || node->getName(name) != 0) {
+  if (node == nullptr || tervix::nameOf(*node).empty()) {
     status = tervix::raiseError(tervix::kNodeNotInitialized);
     return false;
   }
   status = 0;
-  const auto present = cellNamed(name);
+  const auto present = cellOf(tervix::NodeKey::kName, tervix::nameOf(*node));
   if (present == nodes_.end())
     return true;
-  const std::string path = tervix::pathOf(*node);
+  const std::string& path = tervix::pathOf(*node);
   if (path.empty()) {
     status = tervix::raiseError(tervix::kNodeNotInitialized);
     return false;
   }
-  std::string presentPath;
-  status = (*present)->getPath(presentPath);
+  const std::string& presentPath = tervix::pathOf(*present->node);
+  status = presentPath.empty() ? 1 : 0;
   return status == 0 && !tervix::equalsIgnoringCase(path, presentPath);
 }
 
@@ -105,28 +124,35 @@ unsigned long CTervixNodeList::addNode(CTervixNode* node) {
 }
 
 unsigned long CTervixNodeList::deleteNode(std::string& name) {
-  const auto named = cellNamed(name);
+  const auto named = cellOf(tervix::NodeKey::kName, name);
   if (named == nodes_.end())
     return 1;
-  CTervixNode* node = *named;
-  for (auto cell = nodes_.begin(); cell != nodes_.end();)
-    cell = *cell == node ? remove(cell) : std::next(cell);
+  CTervixNode* node = named->node;
+  for (tervix::NodeCell* cell = tervix::NodeAccess::cells(*node); cell != nullptr;) {
+    tervix::NodeCell* const next = cell->nextOfNode;
+    if (cell->list == this)
+      remove(cell->self);
+    cell = next;
+  }
   delete node;
   return 0;
 }
 
 unsigned long CTervixNodeList::deleteNodeWithPath(std::string& path, bool force) {
   path = tervix::toForwardSlashes(path);
-  const auto cell = cellWithPath(path);
+  const auto cell = cellOf(tervix::NodeKey::kPath, path);
   if (cell == nodes_.end())
     return 1;
-  const unsigned int references = tervix::releaseProject(**cell);
+  const unsigned int references = tervix::releaseProject(*cell->node);
   if (force || references == 0)
     remove(cell);
   return 0;
 }
 
 unsigned long CTervixNodeList::clear() {
+  index_.reset();
+  for (tervix::NodeCell& cell : nodes_)
+    tervix::NodeListing::delist(cell);
   nodes_.clear();
   count_ = 0;
   cursor_ = nodes_.end();
@@ -139,14 +165,14 @@ unsigned long CTervixNodeList::deleteAllNodes() {
 
 unsigned long CTervixNodeList::getTopNode(CTervixNode*& node) {
   cursor_ = nodes_.begin();
-  node = nodes_.empty() ? nullptr : *cursor_;
+  node = nodes_.empty() ? nullptr : cursor_->node;
   return 0;
 }
 
 unsigned long CTervixNodeList::getNextNode(CTervixNode*& node) {
   if (cursor_ != nodes_.end())
     ++cursor_;
-  node = cursor_ == nodes_.end() ? nullptr : *cursor_;
+  node = cursor_ == nodes_.end() ? nullptr : cursor_->node;
   return 0;
 }
 
@@ -156,15 +182,15 @@ unsigned long CTervixNodeList::rewind() {
 }
 
 unsigned long CTervixNodeList::findNode(CTervixNode*& node, std::string& name) {
-  const auto cell = cellNamed(name);
-  node = cell == nodes_.end() ? nullptr : *cell;
+  const auto cell = cellOf(tervix::NodeKey::kName, name);
+  node = cell == nodes_.end() ? nullptr : cell->node;
   return node != nullptr ? 0 : 1;
 }
 
 unsigned long CTervixNodeList::findNodeWithPath(CTervixNode*& node, std::string& path) {
   path = tervix::toForwardSlashes(path);
-  const auto cell = cellWithPath(path);
-  node = cell == nodes_.end() ? nullptr : *cell;
+  const auto cell = cellOf(tervix::NodeKey::kPath, path);
+  node = cell == nodes_.end() ? nullptr : cell->node;
   return node != nullptr ? 0 : 1;
 }
 

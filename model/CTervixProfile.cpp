@@ -4,6 +4,7 @@
 #include "foundation/Text.h"
 #include "foundation/platform/Platform.h"
 #include "model/NodeFields.h"
+#include "model/NodeListing.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"
 
@@ -63,6 +64,7 @@ CTervixProfile::CTervixProfile(const char* path, const char* name, const char* d
 CTervixProfile::CTervixProfile(const CTervixProfile& other) = default;
 
 CTervixProfile::~CTervixProfile() {
+  tervix::NodeListing::forget(*this);
   variantsUpdated_ = true;
   writeProfileLevelVariants();
 }
@@ -175,6 +177,7 @@ unsigned long CTervixProfile::getOutFilePath(std::string& path) const {
 }
 
 unsigned long CTervixProfile::setMarkerKey() {
+  const tervix::KeyChange change(*this, tervix::NodeKey::kMarkerKey);
   markerKey_.clear();
   const CTervixNode* schematic = tervix::parentOf(*this);
   const CTervixProject* project = schematic != nullptr ? tervix::projectAbove(*schematic) : nullptr;

@@ -11,6 +11,7 @@
 
 CTervixSchematic::CTervixSchematic() {
   setType(NODE_TYPE_SCHEMATIC);
+  profiles_.holder_ = this;
 }
 
 CTervixSchematic::CTervixSchematic(const char* path, const char* name, FRONTEND_ID frontEndId,
@@ -30,7 +31,10 @@ CTervixSchematic::CTervixSchematic(const char* path, const char* name, FRONTEND_
   }
 }
 
-CTervixSchematic::CTervixSchematic(const CTervixSchematic& other) = default;
+CTervixSchematic::CTervixSchematic(const CTervixSchematic& other)
+    : CTervixNode(other), profiles_(other.profiles_), isRoot_(other.isRoot_) {
+  profiles_.holder_ = this;
+}
 CTervixSchematic::~CTervixSchematic() = default;
 
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment,misc-unconventional-assign-operator)

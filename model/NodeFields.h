@@ -3,38 +3,29 @@
 #include <string>
 
 #include "CTervixNode.h"
+#include "model/NodeAccess.h"
 
 namespace tervix {
 
-// The fields of a node as values; empty or 0 when unset.
-inline std::string nameOf(const CTervixNode& node) {
-  std::string name;
-  node.getName(name);
-  return name;
+// The fields of a node; empty or 0 when unset. A text is valid until its field is set again.
+inline const std::string& nameOf(const CTervixNode& node) {
+  return NodeAccess::name(node);
 }
 
-inline std::string pathOf(const CTervixNode& node) {
-  std::string path;
-  node.getPath(path);
-  return path;
+inline const std::string& pathOf(const CTervixNode& node) {
+  return NodeAccess::path(node);
 }
 
-inline std::string folderPathOf(const CTervixNode& node) {
-  std::string folder;
-  node.getFolderPath(folder);
-  return folder;
+inline const std::string& folderPathOf(const CTervixNode& node) {
+  return NodeAccess::folderPath(node);
 }
 
 inline FRONTEND_ID frontEndOf(const CTervixNode& node) {
-  FRONTEND_ID frontEnd = FRONTEND_ID_UNSET;
-  node.getFrontEndId(frontEnd);
-  return frontEnd;
+  return NodeAccess::frontEnd(node);
 }
 
 inline PROJECT_TYPE projectTypeOf(const CTervixNode& node) {
-  PROJECT_TYPE type = PROJECT_TYPE_UNSET;
-  node.getProjectType(type);
-  return type;
+  return NodeAccess::projectType(node);
 }
 
 // Whether a text can name a node that is made from a C string.
@@ -47,9 +38,7 @@ inline bool isSimulation(const CTervixNode& node) {
 }
 
 inline CTervixNode* parentOf(const CTervixNode& node) {
-  CTervixNode* parent = nullptr;
-  node.getParent(parent);
-  return parent;
+  return NodeAccess::parent(node);
 }
 
 } // namespace tervix

@@ -23,7 +23,7 @@ struct ChangedName {
 // The parent of node when it is a project, otherwise null.
 CTervixProject* projectAbove(const CTervixNode& node);
 
-std::string designNameOf(const CTervixProject& project);
+const std::string& designNameOf(const CTervixProject& project);
 ChangedName changedNameOf(const CTervixProject& project);
 
 // The folder of a schematic's files in a simulation project that keeps its files beside it.

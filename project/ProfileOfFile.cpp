@@ -102,17 +102,19 @@ CTervixNode* CTervixProject::renamedProfileOf(const std::string& simPath) {
   const std::string formerPath = tervix::folderOf(simPath).value_or(std::string()) + "/" +
                                  std::string(tervix::withoutLast(stem, record.changed.size())) +
                                  record.former + tervix::kSimEnding;
-  CTervixNode* found = nullptr;
-  const bool isSettled =
-      TreeWalk::anyProfile(*this, [&](CTervixSchematic&, CTervixProfile& profile) {
-        const std::string path = tervix::pathOf(profile);
-        const bool isFormer = tervix::equalsIgnoringCase(tervix::nameOf(profile), record.former);
-        if (isFormer && (found == nullptr || tervix::equalsAsPath(path, formerPath)))
-          found = &profile;
-        return isFormer && tervix::equalsAsPath(path, formerPath);
-      });
+  CTervixNode* const atFormerPath =
+      TreeWalk::firstProfile(*this, tervix::NodeKey::kPath, formerPath,
+                             [&](const CTervixProfile& profile) {
+                               return tervix::equalsIgnoringCase(tervix::nameOf(profile),
+                                                                 record.former);
+                             })
+          .profile;
+  if (atFormerPath != nullptr)
+    return atFormerPath;
   // The record outlives the rename: a file that the tree lists by now stands for itself.
-  return isSettled || tervix::profileWithPath(*this, simPath) == nullptr ? found : nullptr;
+  return tervix::profileWithPath(*this, simPath) == nullptr
+             ? tervix::profileNamed(*this, record.former)
+             : nullptr;
 }
 
 unsigned long CTervixProject::findProfile(CTervixNode*& profile, std::string& schematicName,

@@ -47,12 +47,6 @@ std::size_t placeOfChanged(const PathRewrite& rewrite, const std::string& text, 
   return place == text.end() ? std::string::npos : static_cast<std::size_t>(place - text.begin());
 }
 
-bool hasMarkerKey(const CTervixProfile& profile, const std::string& markerKey) {
-  std::string key;
-  profile.getMarkerKey(key);
-  return tervix::equalsIgnoringCase(key, markerKey);
-}
-
 // Spells a key with the former name of the recorded rename; false when it does not hold the new
 // one.
 bool toFormerKey(std::string& key, const tervix::ChangedName& record) {
@@ -122,9 +116,7 @@ unsigned long CTervixProject::aapExists(bool& exists, CTervixNode*& schematic,
 }
 
 unsigned long CTervixProject::markerKeyExists(bool& exists, std::string& markerKey) {
-  exists = TreeWalk::anyProfile(*this, [&](CTervixSchematic&, CTervixProfile& profile) {
-    return hasMarkerKey(profile, markerKey);
-  });
+  exists = TreeWalk::firstProfile(*this, tervix::NodeKey::kMarkerKey, markerKey).profile != nullptr;
   return 0;
 }
 
@@ -132,18 +124,11 @@ unsigned long CTervixProject::getDsnSchProfNamesForMarkerKey(std::string& design
                                                              std::string& schematicName,
                                                              std::string& profileName,
                                                              std::string& markerKey) {
-  const std::string key = markerKey;
-  designName.clear();
-  schematicName.clear();
-  profileName.clear();
-  TreeWalk::anyProfile(*this, [&](CTervixSchematic& schematic, CTervixProfile& profile) {
-    if (!hasMarkerKey(profile, key))
-      return false;
-    designName = designName_;
-    schematicName = tervix::nameOf(schematic);
-    profileName = tervix::nameOf(profile);
-    return true;
-  });
+  const auto [schematic, profile] =
+      TreeWalk::firstProfile(*this, tervix::NodeKey::kMarkerKey, markerKey);
+  designName = profile != nullptr ? designName_ : std::string();
+  schematicName = profile != nullptr ? tervix::nameOf(*schematic) : std::string();
+  profileName = profile != nullptr ? tervix::nameOf(*profile) : std::string();
   return 0;
 }
 

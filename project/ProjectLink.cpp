@@ -9,10 +9,8 @@ CTervixProject* projectAbove(const CTervixNode& node) {
   return dynamic_cast<CTervixProject*>(parentOf(node));
 }
 
-std::string designNameOf(const CTervixProject& project) {
-  std::string name;
-  project.getDesignName(name);
-  return name;
+const std::string& designNameOf(const CTervixProject& project) {
+  return NodeAccess::designName(project);
 }
 
 ChangedName changedNameOf(const CTervixProject& project) {
