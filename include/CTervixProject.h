@@ -11,6 +11,10 @@
 #include "TervixExport.h"
 #include "TervixFiles.h"
 
+namespace tervix { // the library's own
+class SimFile;
+} // namespace tervix
+
 // What the two names of a changed-name record belong to.
 enum RENAME_TYPE : int {
   RENAME_TYPE_NONE = 0,
@@ -361,6 +365,12 @@ private:
   TERVIX_LOCAL unsigned long addProfileTo(CTervixNode*& profile, CTervixSchematic& schematic,
                                           const std::string& schematicName,
                                           std::string& profileName);
+  TERVIX_LOCAL unsigned long findProfileOf(CTervixNode*& profile, std::string& schematicName,
+                                           std::string& profileName, std::string& profileFilePath,
+                                           const tervix::SimFile& file);
+  TERVIX_LOCAL unsigned long addProfileOf(CTervixNode*& profile, bool& added,
+                                          std::string& profileFilePath,
+                                          const tervix::SimFile& file);
   TERVIX_LOCAL unsigned long findProfileIn(CTervixNode*& schematic, CTervixNode*& profile,
                                            std::string& schematicName, std::string& profileName);
   TERVIX_LOCAL unsigned long profileBasedFile(std::string& path, const std::string& profile,

@@ -14,6 +14,9 @@ struct NodeAccess {
   static FRONTEND_ID frontEnd(const CTervixNode& node) { return node.frontEndId_; }
   static PROJECT_TYPE projectType(const CTervixNode& node) { return node.projectType_; }
   static CTervixNode* parent(const CTervixNode& node) { return node.parent_; }
+  static const std::string& displayName(const CTervixProfile& profile) {
+    return profile.displayName_;
+  }
   static const std::string& markerKey(const CTervixProfile& profile) { return profile.markerKey_; }
   static const std::string& designName(const CTervixProject& project) {
     return project.designName_;

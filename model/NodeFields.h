@@ -20,6 +20,10 @@ inline const std::string& folderPathOf(const CTervixNode& node) {
   return NodeAccess::folderPath(node);
 }
 
+inline const std::string& displayNameOf(const CTervixProfile& profile) {
+  return NodeAccess::displayName(profile);
+}
+
 inline FRONTEND_ID frontEndOf(const CTervixNode& node) {
   return NodeAccess::frontEnd(node);
 }

@@ -26,24 +26,24 @@ constexpr std::string_view kProfileFile = "ProfileFile";
 constexpr std::string_view kDesignFile = "DesignFile";
 constexpr std::string_view kProjectFile = "ProjectFile";
 
+// Whether line begins with key. Most lines differ in their first letter.
+bool beginsWith(std::string_view line, std::string_view key) {
+  return !line.empty() && toLowerCase(line.front()) == toLowerCase(key.front()) &&
+         startsWithIgnoringCase(line, key);
+}
+
 // Deliberate: lines are counted, not keys, so the same key twice counts as two.
-unsigned long readKeys(const std::string& simPath, std::initializer_list<Key> keys) {
-  LineReader file;
-  switch (file.open(simPath)) {
-  case platform::FileReader::Opening::kNoReadableFile:
-    return raiseError(kFileDoesNotExist, simPath);
-  case platform::FileReader::Opening::kFailed:
-    return raiseError(kCannotReadFile, simPath);
-  case platform::FileReader::Opening::kOpened:
-    break;
-  }
+unsigned long readKeys(const SimFile& file, std::initializer_list<Key> keys) {
+  LineReader* lines = nullptr;
+  if (const unsigned long status = file.readLines(lines); status != 0)
+    return status;
   std::size_t seen = 0;
   while (seen < keys.size()) {
-    const auto line = file.next();
+    const auto line = lines->next();
     if (!line)
       break;
     const auto* const key = std::find_if(keys.begin(), keys.end(), [&](const Key& candidate) {
-      return startsWithIgnoringCase(*line, candidate.word);
+      return beginsWith(*line, candidate.word);
     });
     if (key == keys.end())
       continue;
@@ -51,40 +51,55 @@ unsigned long readKeys(const std::string& simPath, std::initializer_list<Key> ke
     if (const auto value = quotedValue(*line))
       key->value = *value;
   }
-  if (file.failed())
-    return raiseError(kCannotReadFile, simPath);
-  return seen == keys.size() ? 0 : raiseError(kInvalidSimFile, simPath);
+  if (lines->failed())
+    return raiseError(kCannotReadFile, file.path());
+  return seen == keys.size() ? 0 : raiseError(kInvalidSimFile, file.path());
 }
 
 } // namespace
 
+unsigned long SimFile::readLines(LineReader*& lines) const {
+  using Opening = platform::FileReader::Opening;
+  if (opening_ == Opening::kOpened && !lines_.rewind())
+    opening_.reset();
+  switch (opening()) {
+  case Opening::kNoReadableFile:
+    return raiseError(kFileDoesNotExist, path_);
+  case Opening::kFailed:
+    return raiseError(kCannotReadFile, path_);
+  case Opening::kOpened:
+    break;
+  }
+  lines = &lines_;
+  return 0;
+}
+
 unsigned long readProfileNameAndRoot(std::string& rootSchematic, std::string& profileName,
-                                     const std::string& simPath) {
-  return readKeys(simPath, {{kProfileName, profileName}, {kRootSchematics, rootSchematic}});
+                                     const SimFile& file) {
+  return readKeys(file, {{kProfileName, profileName}, {kRootSchematics, rootSchematic}});
 }
 
-unsigned long readDataAndOutFile(std::string& outFile, std::string& dataFile,
-                                 const std::string& simPath) {
-  return readKeys(simPath, {{kDataFile, dataFile}, {kOutFile, outFile}});
+unsigned long readDataAndOutFile(std::string& outFile, std::string& dataFile, const SimFile& file) {
+  return readKeys(file, {{kDataFile, dataFile}, {kOutFile, outFile}});
 }
 
-unsigned long readSimProjectInfo(SimProjectInfo& info, const std::string& simPath) {
-  return readKeys(simPath, {{kProfileName, info.profileName},
-                            {kProfileFile, info.profileFile},
-                            {kDesignFile, info.designFile},
-                            {kProjectFile, info.projectFile},
-                            {kRootSchematics, info.rootSchematic}});
+unsigned long readSimProjectInfo(SimProjectInfo& info, const SimFile& file) {
+  return readKeys(file, {{kProfileName, info.profileName},
+                         {kProfileFile, info.profileFile},
+                         {kDesignFile, info.designFile},
+                         {kProjectFile, info.projectFile},
+                         {kRootSchematics, info.rootSchematic}});
 }
 
-unsigned long checkSimFile(const std::string& simPath) {
+unsigned long checkSimFile(const SimFile& file) {
   SimProjectInfo info;
-  if (const unsigned long status = readSimProjectInfo(info, simPath); status != 0)
+  if (const unsigned long status = readSimProjectInfo(info, file); status != 0)
     return status;
   const bool isWhole =
       !info.designFile.empty() && !info.projectFile.empty() && !info.rootSchematic.empty();
   if (isWhole && equalsIgnoringCase(stemOf(info.profileFile), info.profileName))
     return 0;
-  return raiseError(kInvalidSimFile, simPath);
+  return raiseError(kInvalidSimFile, file.path());
 }
 
 } // namespace tervix

@@ -1,4 +1,5 @@
-#include <vector>
+#include <initializer_list>
+#include <utility>
 
 #include "CTervixProject.h"
 #include "foundation/ErrorTable.h"
@@ -58,36 +59,47 @@ void completeFromPlace(ProfileKey& key, const std::string& simPath, const CTervi
 
 // The names that the file holds. A simulation project's file has all keys of a profile file, some
 // of them without a value, but two suffice.
-unsigned long readKey(ProfileKey& key, const std::string& simPath, const CTervixProject& project) {
+unsigned long readKey(ProfileKey& key, const tervix::SimFile& file, const CTervixProject& project) {
   if (!tervix::isSimulation(project))
-    return tervix::readProfileNameAndRoot(key.schematic, key.profile, simPath);
+    return tervix::readProfileNameAndRoot(key.schematic, key.profile, file);
   tervix::SimProjectInfo info;
-  unsigned long status = tervix::readSimProjectInfo(info, simPath);
+  unsigned long status = tervix::readSimProjectInfo(info, file);
   if (status == tervix::kInvalidSimFile)
-    status = tervix::readProfileNameAndRoot(info.rootSchematic, info.profileName, simPath);
+    status = tervix::readProfileNameAndRoot(info.rootSchematic, info.profileName, file);
   if (status != 0)
     return status;
-  key = {info.rootSchematic, info.profileName};
-  completeFromPlace(key, simPath, project);
+  key = {std::move(info.rootSchematic), std::move(info.profileName)};
+  completeFromPlace(key, file.path(), project);
   return 0;
 }
 
-// The paths under which the tree may list the profile of a file: its own, then those that its
-// names give beside it.
-std::vector<std::string> candidatePaths(const std::string& simPath, const ProfileKey& key,
-                                        const std::string& design) {
-  std::vector<std::string> paths = {simPath};
-  const auto own = tervix::folderOf(tervix::toForwardSlashes(simPath));
-  const std::string folder = own ? *own + "/" : std::string();
-  if (!key.profile.empty())
-    paths.push_back(folder + key.profile + tervix::kSimEnding);
-  if (!key.isWhole())
-    return paths;
-  for (const std::string& name :
-       {key.schematic + "-" + key.profile, tervix::longNameOf(design, key.schematic, key.profile),
-        key.schematic + "/" + key.profile})
-    paths.push_back(folder + name + tervix::kSimEnding);
-  return paths;
+// Tries the paths under which the tree may list the profile of a file: its own, then those that
+// its names give beside it. path becomes the one that leads to a profile.
+CTervixProfile* profileAtPathOf(std::string& path, const std::string& simPath,
+                                const ProfileKey& key, const CTervixProject& project) {
+  const tervix::SimPathSearch search(project);
+  path = simPath;
+  if (CTervixProfile* own = search.find(path); own != nullptr)
+    return own;
+  if (key.profile.empty())
+    return nullptr;
+  const std::size_t separator = simPath.find_last_of("/\\");
+  const std::string_view folder = std::string_view(simPath).substr(0, separator + 1);
+  const auto findBeside = [&](std::initializer_list<std::string_view> name) {
+    path = tervix::toForwardSlashes(folder);
+    for (const std::string_view piece : name)
+      path += piece;
+    path += tervix::kSimEnding;
+    return path != simPath ? search.find(path) : nullptr;
+  };
+  CTervixProfile* found = findBeside({key.profile});
+  if (found == nullptr && key.isWhole())
+    found = findBeside({key.schematic, "-", key.profile});
+  if (found == nullptr && key.isWhole())
+    found = findBeside({tervix::designNameOf(project), "-", key.schematic, "-", key.profile});
+  if (found == nullptr && key.isWhole())
+    found = findBeside({key.schematic, "/", key.profile});
+  return found;
 }
 
 } // namespace
@@ -119,6 +131,15 @@ CTervixNode* CTervixProject::renamedProfileOf(const std::string& simPath) {
 
 unsigned long CTervixProject::findProfile(CTervixNode*& profile, std::string& schematicName,
                                           std::string& profileName, std::string& profileFilePath) {
+  const std::string simPath = profileFilePath;
+  return findProfileOf(profile, schematicName, profileName, profileFilePath,
+                       tervix::SimFile(simPath));
+}
+
+// The outputs may be one string, so the file keeps a path of its own.
+unsigned long CTervixProject::findProfileOf(CTervixNode*& profile, std::string& schematicName,
+                                            std::string& profileName, std::string& profileFilePath,
+                                            const tervix::SimFile& file) {
   profile = nullptr;
   FRONTEND_ID frontEnd = FRONTEND_ID_UNSET;
   if (const unsigned long status = getFrontEndId(frontEnd); status != 0)
@@ -129,26 +150,20 @@ unsigned long CTervixProject::findProfile(CTervixNode*& profile, std::string& sc
     profileName = name;
     return 0UL;
   };
-  if (CTervixNode* renamed = renamedProfileOf(profileFilePath); renamed != nullptr)
+  if (CTervixNode* renamed = renamedProfileOf(file.path()); renamed != nullptr)
     return handOut(renamed, tervix::changedNameOf(*this).former);
   ProfileKey key;
-  const unsigned long status = readKey(key, profileFilePath, *this);
-  // Composed first, as the caller may want a name in the string that holds the path.
-  std::vector<std::string> candidates = candidatePaths(profileFilePath, key, designName_);
+  const unsigned long status = readKey(key, file, *this);
   if (!key.schematic.empty())
     schematicName = key.schematic;
   if (!key.profile.empty())
     profileName = key.profile;
   if (key.isWhole() && findProfile(profile, key.schematic, key.profile) == 0)
     return 0;
-  for (std::string& candidate : candidates) {
-    bool exists = false;
-    CTervixNode* found = nullptr;
-    simProfileExists(exists, found, candidate);
-    if (exists) {
-      profileFilePath = candidate;
-      return handOut(found, tervix::nameOf(*found));
-    }
+  std::string path;
+  if (CTervixProfile* listed = profileAtPathOf(path, file.path(), key, *this); listed != nullptr) {
+    profileFilePath = path;
+    return handOut(listed, tervix::nameOf(*listed));
   }
   return status != 0 ? status : 1;
 }

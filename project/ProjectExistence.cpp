@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "CTervixProject.h"
 #include "foundation/Text.h"
 #include "model/NodeFields.h"
@@ -10,42 +8,8 @@
 
 namespace {
 
-constexpr std::string_view kBackupEnding = ".bak";
 constexpr std::string_view kAapBackupEnding = ".$ap";
 constexpr std::string_view kAapEnding = ".aap";
-
-// How a recorded rename shows in a path: the piece with the new name, and what it stands for.
-struct PathRewrite {
-  std::string changedPiece;
-  std::string formerPiece;
-  bool ignoresCase = false;
-};
-
-// None, with empty pieces, for a record that does not show in the paths of profiles.
-PathRewrite rewriteFor(const tervix::ChangedName& record, PROJECT_TYPE type) {
-  if (record.isWholeFor(RENAME_TYPE_SCHEMATIC)) {
-    const std::string edge = type == PROJECT_TYPE_OTHER ? "-" : "/";
-    return {edge + record.changed + edge, edge + record.former + edge, false};
-  }
-  // Deliberate: a folder's name is matched in any case, a schematic's is not.
-  if (record.isWholeFor(RENAME_TYPE_PROJECT) && type == PROJECT_TYPE_SIMULATION)
-    return {"/" + tervix::filesFolder(record.changed), "/" + tervix::filesFolder(record.former),
-            true};
-  return {};
-}
-
-bool matches(const PathRewrite& rewrite, char a, char b) {
-  return rewrite.ignoresCase ? tervix::toLowerCase(a) == tervix::toLowerCase(b) : a == b;
-}
-
-// Where text holds the piece with the new name, from a position on.
-std::size_t placeOfChanged(const PathRewrite& rewrite, const std::string& text, std::size_t from) {
-  const std::string& piece = rewrite.changedPiece;
-  const auto place =
-      std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), piece.begin(),
-                  piece.end(), [&](char a, char b) { return matches(rewrite, a, b); });
-  return place == text.end() ? std::string::npos : static_cast<std::size_t>(place - text.begin());
-}
 
 // Spells a key with the former name of the recorded rename; false when it does not hold the new
 // one.
@@ -75,23 +39,7 @@ bool toFormerKey(std::string& key, const tervix::ChangedName& record) {
 
 unsigned long CTervixProject::simProfileExists(bool& exists, CTervixNode*& profile,
                                                std::string& simPath) {
-  simPath = tervix::toForwardSlashes(simPath.substr(0, simPath.find(kBackupEnding)));
-  const PathRewrite rewrite =
-      rewriteFor(tervix::changedNameOf(*this), tervix::projectTypeOf(*this));
-  // A former name that brings the new one back in is put in once; any other rewriting ends.
-  const bool comesBack = placeOfChanged(rewrite, rewrite.formerPiece, 0) != std::string::npos;
-  profile = tervix::profileWithPath(*this, simPath);
-  // No more often than the path has characters, whatever the names.
-  std::size_t left = rewrite.changedPiece.empty() ? 0 : comesBack ? 1 : simPath.size();
-  for (std::size_t from = 0; profile == nullptr && left > 0; --left) {
-    const std::size_t place = placeOfChanged(rewrite, simPath, from);
-    if (place == std::string::npos)
-      break;
-    simPath.replace(place, rewrite.changedPiece.size(), rewrite.formerPiece);
-    profile = tervix::profileWithPath(*this, simPath);
-    // What stands before can hold the piece only where it reaches into what was put in.
-    from = place - std::min(place, rewrite.changedPiece.size() - 1);
-  }
+  profile = tervix::SimPathSearch(*this).find(simPath);
   exists = profile != nullptr;
   return 0;
 }

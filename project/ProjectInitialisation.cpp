@@ -84,25 +84,23 @@ unsigned long CTervixProject::initializeDesignConfiguration(
 }
 
 unsigned long CTervixProject::readProfiles(const std::vector<std::string>& schematicFolders) {
-  std::vector<std::string> files;
   std::string activeName;
+  const auto add = [&](const tervix::SimFile& file) {
+    CTervixNode* node = nullptr;
+    bool added = false;
+    std::string path = file.path();
+    addProfileOf(node, added, path, file);
+    if (node == nullptr || !added || activeName.empty())
+      return;
+    auto& profile = static_cast<CTervixProfile&>(*node);
+    if (tervix::equalsIgnoringCase(tervix::displayNameOf(profile), activeName))
+      profile.setActive(true);
+  };
   if (const unsigned long status = tervix::readProfileFiles(
-          files, activeName, tervix::pathOf(*this), tervix::folderPathOf(*this), schematicFolders,
+          add, activeName, tervix::pathOf(*this), tervix::folderPathOf(*this), schematicFolders,
           tervix::frontEndOf(*this), tervix::projectTypeOf(*this));
       status != 0)
     return status;
-  for (std::string& file : files) {
-    CTervixNode* node = nullptr;
-    bool added = false;
-    addProfile(node, added, file);
-    if (node == nullptr || !added || activeName.empty())
-      continue;
-    auto* const profile = static_cast<CTervixProfile*>(node);
-    std::string displayName;
-    profile->getDisplayName(displayName);
-    if (tervix::equalsIgnoringCase(displayName, activeName))
-      profile->setActive(true);
-  }
   setActiveProfile(activeName);
   return 0;
 }

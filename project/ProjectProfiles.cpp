@@ -49,10 +49,18 @@ unsigned long CTervixProject::addProfileTo(CTervixNode*& profile, CTervixSchemat
 
 unsigned long CTervixProject::addProfile(CTervixNode*& profile, bool& added,
                                          std::string& profileFilePath) {
+  const std::string simPath = profileFilePath;
+  return addProfileOf(profile, added, profileFilePath, tervix::SimFile(simPath));
+}
+
+unsigned long CTervixProject::addProfileOf(CTervixNode*& profile, bool& added,
+                                           std::string& profileFilePath,
+                                           const tervix::SimFile& file) {
   added = false;
   std::string schematicName;
   std::string profileName;
-  const unsigned long status = findProfile(profile, schematicName, profileName, profileFilePath);
+  const unsigned long status =
+      findProfileOf(profile, schematicName, profileName, profileFilePath, file);
   if (status == 0 && profile != nullptr) {
     added = true;
     return 0;
@@ -62,7 +70,7 @@ unsigned long CTervixProject::addProfile(CTervixNode*& profile, bool& added,
   const bool isChecked = tervix::frontEndOf(*this) == FRONTEND_ID_PROJECT_FILE &&
                          tervix::projectTypeOf(*this) == PROJECT_TYPE_OTHER;
   if (isChecked)
-    if (const unsigned long checked = tervix::checkSimFile(profileFilePath); checked != 0)
+    if (const unsigned long checked = tervix::checkSimFile(file); checked != 0)
       return checked;
   return addProfile(profile, added, schematicName, profileName);
 }
@@ -90,9 +98,7 @@ unsigned long CTervixProject::setActiveProfile(std::string& displayName) {
     return status;
   for (CTervixProfile& profile :
        TreeWalk::profilesOf(static_cast<const CTervixSchematic&>(*root))) {
-    std::string listed;
-    profile.getDisplayName(listed);
-    const bool isActive = tervix::equalsIgnoringCase(listed, displayName);
+    const bool isActive = tervix::equalsIgnoringCase(tervix::displayNameOf(profile), displayName);
     profile.setActive(isActive);
     if (isActive)
       activeProfile_ = displayName;

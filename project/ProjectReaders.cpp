@@ -37,32 +37,38 @@ std::string listedFile(const std::string& projectFolder, const std::string& list
   return file;
 }
 
-// Appends the ".sim" files of a folder; false when it cannot be listed.
-bool appendSimFiles(std::vector<std::string>& files, const std::string& folder) {
+using SimFileVisit = std::function<void(const SimFile&)>;
+
+// A file is told from anything else by opening it.
+void visitIfReadable(const SimFileVisit& visit, const std::string& path) {
+  const SimFile file(path);
+  if (file.isReadableFile())
+    visit(file);
+}
+
+bool canBeFile(platform::EntryKind kind) {
+  return kind == platform::EntryKind::kFile || kind == platform::EntryKind::kUnknown;
+}
+
+// Visits the ".sim" files of a folder; false when it cannot be listed.
+bool visitSimFiles(const SimFileVisit& visit, const std::string& folder) {
   const auto entries = platform::listFolder(folder);
   if (!entries)
     return false;
-  for (const platform::FolderEntry& entry : *entries) {
-    if (!isSimFileName(entry.name))
-      continue;
-    std::string file = folder + "/" + entry.name;
-    if (platform::isReadableFile(file))
-      files.push_back(std::move(file));
-  }
+  for (const platform::FolderEntry& entry : *entries)
+    if (canBeFile(entry.kind) && isSimFileName(entry.name))
+      visitIfReadable(visit, folder + "/" + entry.name);
   return true;
 }
 
-unsigned long readRegisteredProfiles(std::vector<std::string>& profileFiles,
-                                     std::string& activeProfile, const std::string& projectFile,
+unsigned long readRegisteredProfiles(const SimFileVisit& visit, std::string& activeProfile,
+                                     const std::string& projectFile,
                                      const std::string& projectFolder) {
   std::list<std::string> registered;
   if (!closed::listProfiles(projectFile, registered, activeProfile))
     return raiseError(kInvalidFileSyntax, projectFile);
-  for (const std::string& listed : registered) {
-    std::string file = listedFile(projectFolder, listed);
-    if (platform::isReadableFile(file))
-      profileFiles.push_back(std::move(file));
-  }
+  for (const std::string& listed : registered)
+    visitIfReadable(visit, listedFile(projectFolder, listed));
   return 0;
 }
 
@@ -114,19 +120,18 @@ unsigned long readDesignSchematics(std::vector<std::string>& schematics, std::st
   return 0;
 }
 
-unsigned long readProfileFiles(std::vector<std::string>& profileFiles, std::string& activeProfile,
+unsigned long readProfileFiles(const SimFileVisit& visit, std::string& activeProfile,
                                const std::string& projectFile, const std::string& projectFolder,
                                const std::vector<std::string>& schematicFolders,
                                FRONTEND_ID frontEnd, PROJECT_TYPE projectType) {
-  profileFiles.clear();
   if (frontEnd == FRONTEND_ID_DESIGN_FILE)
-    return readRegisteredProfiles(profileFiles, activeProfile, projectFile, projectFolder);
+    return readRegisteredProfiles(visit, activeProfile, projectFile, projectFolder);
   if (frontEnd != FRONTEND_ID_PROJECT_FILE)
     return 1;
   if (projectType == PROJECT_TYPE_OTHER) {
     // A folder that is missing or cannot be opened has no profiles.
     for (const std::string& folder : schematicFolders)
-      appendSimFiles(profileFiles, folder);
+      visitSimFiles(visit, folder);
     return 0;
   }
   if (projectType != PROJECT_TYPE_SIMULATION)
@@ -134,7 +139,7 @@ unsigned long readProfileFiles(std::vector<std::string>& profileFiles, std::stri
   const std::string folder = projectFolder + kProfilesFolder;
   if (!platform::exists(folder))
     return raiseError(kNoProfilesDirectory);
-  return appendSimFiles(profileFiles, folder) ? 0 : raiseError(kCannotOpenDirectory, folder);
+  return visitSimFiles(visit, folder) ? 0 : raiseError(kCannotOpenDirectory, folder);
 }
 
 unsigned long readOutputFileFromProject(std::string& outputFile, const std::string& projectFile,

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "CTervixNode.h"
+#include "model/SimFile.h"
 
 namespace tervix {
 
@@ -36,11 +38,13 @@ unsigned long readDesignSchematics(std::vector<std::string>& schematics, std::st
                                    const std::string& designPath, const std::string& designName,
                                    FRONTEND_ID frontEnd);
 
-// Lists the ".sim" files of a project that exist: those registered in the project file, for
-// FRONTEND_ID_PROJECT_FILE those found in its folders. 10109: the project file cannot be read;
+// Calls visit for each ".sim" file of a project that exists, opened: those registered in the
+// project file, for FRONTEND_ID_PROJECT_FILE those found in its folders. activeProfile is read
+// before. 10109: the project file cannot be read;
 // 10122, 10103: no "profiles" folder, or it cannot be opened. 1: another front end or type.
-unsigned long readProfileFiles(std::vector<std::string>& profileFiles, std::string& activeProfile,
-                               const std::string& projectFile, const std::string& projectFolder,
+unsigned long readProfileFiles(const std::function<void(const SimFile&)>& visit,
+                               std::string& activeProfile, const std::string& projectFile,
+                               const std::string& projectFolder,
                                const std::vector<std::string>& schematicFolders,
                                FRONTEND_ID frontEnd, PROJECT_TYPE projectType);
 

@@ -57,7 +57,7 @@ bool replaceFile(const std::string& path, std::string_view content);
 // A path beside path under which nothing stands.
 std::string unusedNameBeside(const std::string& path);
 
-// A regular file, read as text.
+// A regular file, read as text from its beginning to its end. It is closed once the end was read.
 class FileReader {
 public:
   enum class Opening { kOpened, kNoReadableFile, kFailed };
@@ -69,13 +69,20 @@ public:
 
   // kNoReadableFile: missing, not a regular file, or not readable for this user. kFailed: it is
   // there, and the system could not open it all the same.
-  Opening open(const std::string& path);
+  // Opens a file and reads its beginning into buffer, which tells most of what there is to know of
+  // it; count becomes what read would give.
+  Opening open(const std::string& path, char* buffer, std::size_t size,
+               std::optional<std::size_t>& count);
 
   // Fills buffer as far as it can; nullopt on an error, 0 at the end.
   std::optional<std::size_t> read(char* buffer, std::size_t size);
+  // Whether the end was read; false before that, or when it is not known yet.
+  bool isAtEnd() const;
 
 private:
   struct Handle;
+  void noteRead(const std::optional<std::size_t>& count, std::size_t size);
+
   std::unique_ptr<Handle> handle_;
 };
 

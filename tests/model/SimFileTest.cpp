@@ -126,7 +126,7 @@ TEST_F(SimFile, ThatIsAFolderDoesNotExistAsAFile) {
   path_ = folder_.folder("a.sim");
   EXPECT_EQ(readProfileNameAndRoot(root_, name_, path_), 10104U);
   expectLastError(10104, "File \"" + path_ + "\" does not exist.");
-  EXPECT_EQ(readProfileNameAndRoot(root_, name_, ""), 10104U);
+  EXPECT_EQ(readProfileNameAndRoot(root_, name_, std::string()), 10104U);
   expectLastError(10104, "File \"\" does not exist.");
 }
 

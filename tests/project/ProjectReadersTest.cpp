@@ -234,8 +234,10 @@ TEST_F(SchematicsOfDesign, CannotBeReadFromAMissingOrMalformedFile) {
 class ProfilesOfProject : public ::testing::Test {
 protected:
   unsigned long read(FRONTEND_ID frontEnd, PROJECT_TYPE type) {
-    const unsigned long status = readProfileFiles(files, active, folder.path("P/amp.tvp"),
-                                                  folder.path("P"), folders, frontEnd, type);
+    files.clear();
+    const unsigned long status =
+        readProfileFiles([&](const SimFile& file) { files.push_back(file.path()); }, active,
+                         folder.path("P/amp.tvp"), folder.path("P"), folders, frontEnd, type);
     std::sort(files.begin(), files.end());
     return status;
   }

@@ -123,19 +123,55 @@ bool replaceFile(const std::string& path, std::string_view content) {
 
 struct FileReader::Handle {
   FileHandle file;
+  off_t place = 0;
+  bool isSeekable = true;
+  bool isAtEnd = false;
 };
 
-FileReader::FileReader() : handle_(std::make_unique<Handle>()) {}
+FileReader::FileReader() = default;
 FileReader::~FileReader() = default;
 
-FileReader::Opening FileReader::open(const std::string& path) {
-  if (handle_->file.open(NativePath(path).get(), O_RDONLY))
-    return isRegular(handle_->file.status()) ? Opening::kOpened : Opening::kNoReadableFile;
-  return isReadableFile(path) ? Opening::kFailed : Opening::kNoReadableFile;
+// A FIFO, a socket, a terminal and a folder refuse to be read at a place. Of what does not, only a
+// regular file is known to end within the buffer; everything else is asked what it is.
+FileReader::Opening FileReader::open(const std::string& path, char* buffer, std::size_t size,
+                                     std::optional<std::size_t>& count) {
+  handle_ = std::make_unique<Handle>();
+  FileHandle& file = handle_->file;
+  if (!file.open(NativePath(path).get(), O_RDONLY))
+    return isReadableFile(path) ? Opening::kFailed : Opening::kNoReadableFile;
+  count = file.readAt(0, buffer, size);
+  const bool isUnseekable = !count && errno == ESPIPE;
+  const bool isTold = count && *count > 0 && *count < size;
+  if (!isTold && !isRegular(file.status()))
+    return Opening::kNoReadableFile;
+  handle_->isSeekable = !isUnseekable;
+  if (isUnseekable)
+    count = file.read(buffer, size);
+  noteRead(count, size);
+  return Opening::kOpened;
 }
 
 std::optional<std::size_t> FileReader::read(char* buffer, std::size_t size) {
-  return handle_->file.read(buffer, size);
+  if (handle_->isAtEnd)
+    return 0;
+  const auto count = handle_->isSeekable ? handle_->file.readAt(handle_->place, buffer, size)
+                                         : handle_->file.read(buffer, size);
+  noteRead(count, size);
+  return count;
+}
+
+// Less than asked for is the end of a regular file.
+void FileReader::noteRead(const std::optional<std::size_t>& count, std::size_t size) {
+  if (!count)
+    return;
+  handle_->place += static_cast<off_t>(*count);
+  handle_->isAtEnd = handle_->isSeekable ? *count < size : *count == 0;
+  if (handle_->isAtEnd)
+    handle_->file.close();
+}
+
+bool FileReader::isAtEnd() const {
+  return handle_->isAtEnd;
 }
 
 } // namespace tervix::platform

@@ -6,6 +6,20 @@
 #include <unistd.h>
 
 namespace tervix::platform {
+namespace {
+
+// Makes a call again until no signal interrupts it.
+template <class Call> std::optional<std::size_t> repeated(Call call) {
+  ssize_t count = 0;
+  do
+    count = call();
+  while (count < 0 && errno == EINTR);
+  if (count < 0)
+    return std::nullopt;
+  return static_cast<std::size_t>(count);
+}
+
+} // namespace
 
 FileHandle::~FileHandle() {
   close();
@@ -26,13 +40,11 @@ std::optional<struct stat> FileHandle::status() const {
 }
 
 std::optional<std::size_t> FileHandle::read(char* buffer, std::size_t size) const {
-  ssize_t count = 0;
-  do
-    count = ::read(descriptor_, buffer, size);
-  while (count < 0 && errno == EINTR);
-  if (count < 0)
-    return std::nullopt;
-  return static_cast<std::size_t>(count);
+  return repeated([&] { return ::read(descriptor_, buffer, size); });
+}
+
+std::optional<std::size_t> FileHandle::readAt(off_t place, char* buffer, std::size_t size) const {
+  return repeated([&] { return ::pread(descriptor_, buffer, size, place); });
 }
 
 bool FileHandle::write(std::string_view content) const {

@@ -23,6 +23,8 @@ public:
 
   std::optional<struct stat> status() const;
   std::optional<std::size_t> read(char* buffer, std::size_t size) const;
+  // Reads from a place in the file. Fails with ESPIPE, having read nothing, where there is none.
+  std::optional<std::size_t> readAt(off_t place, char* buffer, std::size_t size) const;
   bool write(std::string_view content) const;
   // False when the system reports only now that something was not written.
   bool close();

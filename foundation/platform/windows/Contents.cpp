@@ -116,21 +116,43 @@ bool replaceFile(const std::string& path, std::string_view content) {
 struct FileReader::Handle {
   FileHandle file;
   TextReader<FileHandle> text{file};
+  bool isAtEnd = false;
 };
 
-FileReader::FileReader() : handle_(std::make_unique<Handle>()) {}
+FileReader::FileReader() = default;
 FileReader::~FileReader() = default;
 
-FileReader::Opening FileReader::open(const std::string& path) {
+FileReader::Opening FileReader::open(const std::string& path, char* buffer, std::size_t size,
+                                     std::optional<std::size_t>& count) {
+  handle_ = std::make_unique<Handle>();
   FileHandle& file = handle_->file;
-  if (file.open(NativePath(path).get(), GENERIC_READ, OPEN_EXISTING))
-    return isRegularFile(file.status()) ? Opening::kOpened : Opening::kNoReadableFile;
+  if (file.open(NativePath(path).get(), GENERIC_READ, OPEN_EXISTING)) {
+    if (!isRegularFile(file.status()))
+      return Opening::kNoReadableFile;
+    count = read(buffer, size);
+    return Opening::kOpened;
+  }
   const bool isForbidden = GetLastError() == ERROR_ACCESS_DENIED;
   return !isForbidden && isReadableFile(path) ? Opening::kFailed : Opening::kNoReadableFile;
 }
 
 std::optional<std::size_t> FileReader::read(char* buffer, std::size_t size) {
-  return handle_->text.read(buffer, size);
+  if (handle_->isAtEnd)
+    return 0;
+  const auto count = handle_->text.read(buffer, size);
+  noteRead(count, size);
+  return count;
+}
+
+// Joined line ends make a piece shorter than asked for; only an empty one is the end.
+void FileReader::noteRead(const std::optional<std::size_t>& count, std::size_t /*size*/) {
+  handle_->isAtEnd = count && *count == 0;
+  if (handle_->isAtEnd)
+    handle_->file.close();
+}
+
+bool FileReader::isAtEnd() const {
+  return handle_->isAtEnd;
 }
 
 } // namespace tervix::platform
