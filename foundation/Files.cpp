@@ -8,7 +8,7 @@ namespace {
 // The copy is complete under a name of its own before it takes the place of newPath.
 bool moveToOtherDevice(const std::string& oldPath, const std::string& newPath) {
   const std::string arriving = platform::unusedNameBeside(newPath);
-  if (platform::copyFile(oldPath, arriving) &&
+  if (platform::copyFile(oldPath, arriving) == platform::CopyResult::kCopied &&
       platform::moveEntry(arriving, newPath) == platform::MoveResult::kMoved) {
     platform::removeFile(oldPath);
     return true;
@@ -25,7 +25,7 @@ unsigned long filePathExists(std::string& path, bool& exists) {
 }
 
 unsigned long cpFile(std::string& source, std::string& target) {
-  return platform::copyFile(source, target) ? 0 : 1;
+  return platform::copyFile(source, target) == platform::CopyResult::kCopied ? 0 : 1;
 }
 
 unsigned long rmFile(std::string& path) {

@@ -33,19 +33,18 @@ unsigned long copyLinked(const std::string& source, const std::string& target, O
 }
 
 // Half a copy would pass for a whole one the next time.
-unsigned long copyWholeFile(std::string& source, std::string& target) {
-  const bool wasThere = platform::isTaken(target);
-  const unsigned long status = cpFile(source, target);
-  if (status != 0 && !wasThere)
-    rmFile(target);
-  return status;
+unsigned long copyWholeFile(const std::string& source, const std::string& target) {
+  const platform::CopyResult result = platform::copyFile(source, target);
+  if (result == platform::CopyResult::kMadePart)
+    platform::removeFile(target);
+  return result == platform::CopyResult::kCopied ? 0 : 1;
 }
 
 // Copies one entry; see cpDir for what decides between file and folder.
 unsigned long copyEntry(const std::string& source, const std::string& target,
                         platform::FolderEntry& entry, OpenFolders& open) {
-  std::string from = source + "/" + entry.name;
-  std::string to = target + "/" + entry.name;
+  const std::string from = source + "/" + entry.name;
+  const std::string to = target + "/" + entry.name;
   std::string extension;
   if (getExtensionFromFileName(entry.name, extension) == 0)
     return copyWholeFile(from, to);
@@ -90,6 +89,9 @@ unsigned long createDir(std::string& path) {
 unsigned long createPath(std::string& path) {
   if (path.size() > kLongestPath)
     return tervix::raiseError(tervix::kCannotCreateDirectory, path);
+  // Mostly the last folder alone is missing.
+  if (platform::makeFolder(path) || platform::exists(path))
+    return 0;
   const std::string normal = tervix::toForwardSlashes(path);
   std::size_t slash = normal.find('/');
   // "//server/share": the first folder is the name of a server, which cannot be made.

@@ -79,7 +79,8 @@ unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& ne
   if (oldFolder.empty() || newFolder.empty())
     return 1;
   unsigned long result = 0;
-  if (!platform::isSameEntry(oldFolder, newFolder) && cpDir(oldFolder, newFolder) != 0)
+  // A folder is not copied onto itself, and need not be.
+  if (cpDir(oldFolder, newFolder) != 0 && !platform::isSameEntry(oldFolder, newFolder))
     result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
   const std::string oldStem = tervix::stemOf(oldPath);
   const std::string newStem = tervix::stemOf(newPath);

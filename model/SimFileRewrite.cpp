@@ -43,7 +43,7 @@ std::optional<std::string> rewrittenContent(const std::string& simPath,
 unsigned long rewriteSimKeys(const std::string& simPath, const std::vector<SimKeyValue>& values) {
   const std::string backup = simPath + ".bak";
   const bool keepBackup = platform::isTaken(backup) && !platform::isFolder(backup);
-  if (!keepBackup && !platform::copyFile(simPath, backup)) {
+  if (!keepBackup && platform::copyFile(simPath, backup) != platform::CopyResult::kCopied) {
     platform::removeFile(backup);
     return raiseError(kCannotCopyFile, simPath, backup);
   }

@@ -47,11 +47,14 @@ enum class MoveResult { kMoved, kOtherDevice, kFailed };
 // Replaces a file at newPath in one step.
 MoveResult moveEntry(const std::string& oldPath, const std::string& newPath);
 
-// Copies a regular file; see cpFile for what it promises.
-bool copyFile(const std::string& source, const std::string& target);
+enum class CopyResult { kCopied, kFailed, kMadePart };
+// Copies a regular file; see cpFile for what it promises. kMadePart: it failed and left a target
+// that was not there before.
+CopyResult copyFile(const std::string& source, const std::string& target);
 
 // Gives the file path this content as text. Either all of it is written, or the file stays as it
-// was: the content goes to a file beside it first, which then takes its place.
+// was: the content goes to a file beside it first, which then takes its place. A file that holds
+// the content already is not written.
 bool replaceFile(const std::string& path, std::string_view content);
 
 // A path beside path under which nothing stands.

@@ -23,8 +23,27 @@ bool isRegular(const std::optional<struct stat>& status) {
   return status && S_ISREG(status->st_mode);
 }
 
-bool copyContents(const FileHandle& source, const FileHandle& target) {
-  std::array<char, kCopyBlock> block{};
+// Lets the system copy what it can, up to the size told, and leaves off at the first trouble: it
+// does so between files of some kinds only, and what it says of a failure differs by kind.
+bool copyBySystem(const FileHandle& source, const FileHandle& target, off_t size) {
+  constexpr std::size_t kMost = 1U << 30U;
+  off_t left = size;
+  while (left > 0) {
+    const ssize_t count =
+        copy_file_range(source.descriptor(), nullptr, target.descriptor(), nullptr, kMost, 0);
+    if (count <= 0)
+      return false;
+    left -= count;
+  }
+  return size > 0;
+}
+
+// Copies from where the two stand. Blocks tell the end of a file whose size is not known, and why
+// a copy cannot go on.
+bool copyContents(const FileHandle& source, const FileHandle& target, off_t size) {
+  if (copyBySystem(source, target, size))
+    return true;
+  std::array<char, kCopyBlock> block; // NOLINT(cppcoreguidelines-pro-type-member-init)
   for (;;) {
     const auto count = source.read(block.data(), block.size());
     if (!count)
@@ -38,9 +57,9 @@ bool copyContents(const FileHandle& source, const FileHandle& target) {
 
 // Opens the target of a copy without touching its content yet: nothing is lost when it turns out
 // to be the source itself, or no file.
-bool openTarget(FileHandle& target, const char* path, const struct stat& source) {
+bool openTarget(FileHandle& target, bool& isNew, const char* path, const struct stat& source) {
   const mode_t permissions = source.st_mode & kPermissionBits;
-  const bool isNew = target.open(path, O_WRONLY | O_CREAT | O_EXCL, permissions);
+  isNew = target.open(path, O_WRONLY | O_CREAT | O_EXCL, permissions);
   if (!isNew && !target.open(path, O_WRONLY | O_CREAT, permissions))
     return false;
   const auto status = target.status();
@@ -60,62 +79,98 @@ std::string linkResolved(const char* path) {
   return resolved ? resolved.get() : path;
 }
 
+std::string folderPart(const std::string& path) {
+  return path.substr(0, path.rfind('/') + 1);
+}
+
+// A path for a new file beside another, the first or a later one to try.
+std::string nameBeside(const std::string& path, int attempt) {
+  const std::string name = folderPart(path) + ".tervix-" + std::to_string(getpid());
+  return attempt == 0 ? name : name + "-" + std::to_string(attempt);
+}
+
+// Makes a file of its own for what is to take the place of path.
+bool openBeside(FileHandle& file, std::string& written, const std::string& path) {
+  for (int attempt = 0;; ++attempt) {
+    written = nameBeside(path, attempt);
+    if (file.open(written.c_str(), O_WRONLY | O_CREAT | O_EXCL, kNewFilePermissions))
+      return true;
+    if (errno != EEXIST)
+      return false;
+  }
+}
+
 // former is the file whose place the new one takes.
-bool writeNewFile(const std::string& path, std::string_view content,
+bool writeNewFile(FileHandle& file, std::string_view content,
                   const std::optional<struct stat>& former) {
-  FileHandle file;
-  if (!file.open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, kNewFilePermissions))
-    return false;
   if (former) {
     if (former->st_uid != geteuid() || former->st_gid != getegid())
       static_cast<void>(fchown(file.descriptor(), former->st_uid, former->st_gid));
     static_cast<void>(fchmod(file.descriptor(), former->st_mode & kPermissionBits));
   }
-  if (file.write(content) && file.close())
-    return true;
-  unlink(path.c_str());
-  return false;
+  return file.write(content) && file.close();
+}
+
+// Whether the file holds this content already, and could have been replaced.
+bool holdsAlready(const std::string& path, const struct stat& status, std::string_view content) {
+  if (static_cast<std::size_t>(status.st_size) != content.size())
+    return false;
+  FileHandle file;
+  std::string held(content.size() + 1, '\0');
+  if (!file.open(path.c_str(), O_RDONLY) || file.read(held.data(), held.size()) != content.size())
+    return false;
+  held.pop_back();
+  return held == content && access((folderPart(path) + ".").c_str(), W_OK | X_OK) == 0;
 }
 
 } // namespace
 
-bool copyFile(const std::string& source, const std::string& target) {
+CopyResult copyFile(const std::string& source, const std::string& target) {
   FileHandle from;
   if (!from.open(NativePath(source).get(), O_RDONLY))
-    return false;
+    return CopyResult::kFailed;
   const auto status = from.status();
   if (!isRegular(status))
-    return false;
+    return CopyResult::kFailed;
   FileHandle to;
-  return openTarget(to, NativePath(target).get(), *status) && copyContents(from, to) && to.close();
+  bool isNew = false;
+  if (openTarget(to, isNew, NativePath(target).get(), *status) &&
+      copyContents(from, to, status->st_size) && to.close())
+    return CopyResult::kCopied;
+  return isNew ? CopyResult::kMadePart : CopyResult::kFailed;
 }
 
 std::string unusedNameBeside(const std::string& path) {
   const std::string native(NativePath(path).get());
-  const std::string folder = native.substr(0, native.rfind('/') + 1);
-  const std::string stem = folder + ".tervix-" + std::to_string(getpid());
-  std::string name = stem;
   struct stat status {};
-  for (int attempt = 1; lstat(name.c_str(), &status) == 0; ++attempt)
-    name = stem + "-" + std::to_string(attempt);
-  return name;
+  int attempt = 0;
+  while (lstat(nameBeside(native, attempt).c_str(), &status) == 0)
+    ++attempt;
+  return nameBeside(native, attempt);
 }
 
 bool replaceFile(const std::string& path, std::string_view content) {
-  const std::string file = linkResolved(NativePath(path).get());
+  std::string file = NativePath(path).get();
   std::optional<struct stat> former(std::in_place);
-  if (stat(file.c_str(), &*former) != 0) {
-    // A link that leads nowhere may lead somewhere tomorrow.
-    if (lstat(file.c_str(), &*former) == 0)
-      return false;
+  if (lstat(file.c_str(), &*former) != 0) {
     former.reset();
-  } else if (!S_ISREG(former->st_mode) || access(file.c_str(), W_OK) != 0) {
-    return false;
+  } else if (S_ISLNK(former->st_mode)) {
+    // A link that leads nowhere may lead somewhere tomorrow.
+    file = linkResolved(file.c_str());
+    if (stat(file.c_str(), &*former) != 0)
+      return false;
   }
-  const std::string written = unusedNameBeside(file);
-  if (!writeNewFile(written, content, former))
+  if (former) {
+    if (!S_ISREG(former->st_mode) || access(file.c_str(), W_OK) != 0)
+      return false;
+    if (holdsAlready(file, *former, content))
+      return true;
+  }
+  FileHandle target;
+  std::string written;
+  if (!openBeside(target, written, file))
     return false;
-  if (rename(written.c_str(), file.c_str()) == 0)
+  if (writeNewFile(target, content, former) && rename(written.c_str(), file.c_str()) == 0)
     return true;
   unlink(written.c_str());
   return false;

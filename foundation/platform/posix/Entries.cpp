@@ -5,10 +5,12 @@
 #include <memory>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "foundation/platform/Platform.h"
+#include "foundation/platform/posix/FileHandle.h"
 #include "foundation/platform/posix/NativePath.h"
 
 namespace tervix::platform {
@@ -24,7 +26,8 @@ std::optional<struct stat> statusOf(const NativePath& path) {
 bool isOfKind(const std::string& path, mode_t kind, int permission) {
   const NativePath native(path);
   const auto status = statusOf(native);
-  return status && (status->st_mode & S_IFMT) == kind && access(native.get(), permission) == 0;
+  return status && (status->st_mode & S_IFMT) == kind &&
+         (permission == F_OK || access(native.get(), permission) == 0);
 }
 
 EntryKind kindOf(const dirent& entry) {
@@ -48,6 +51,34 @@ std::filesystem::path resolved(const std::string& path) {
   const std::filesystem::path place = std::filesystem::weakly_canonical(native, error);
   return error || !place.is_absolute() ? std::filesystem::absolute(native, error).lexically_normal()
                                        : place;
+}
+
+bool isSameEntry(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+// Whether folder is met on the way up from the last part of path that exists, by way of "..",
+// which no link can lead astray. None where the way does not begin with plain names, or ends.
+std::optional<bool> isAboveExisting(const std::string& folder, const std::string& path) {
+  const auto wanted = statusOf(NativePath(folder));
+  if (!wanted || contains(toForwardSlashes(path) + "/", "/../"))
+    return std::nullopt;
+  std::string place = NativePath(path).get();
+  FileHandle start;
+  while (!start.open(place.c_str(), O_PATH | O_DIRECTORY) && errno == ENOENT &&
+         place.find('/', 1) != std::string::npos)
+    place.erase(place.rfind('/'));
+  struct stat here {};
+  struct stat below {};
+  for (std::string way = "."; fstatat(start.descriptor(), way.c_str(), &here, 0) == 0;
+       way += "/..") {
+    if (isSameEntry(here, *wanted))
+      return true;
+    if (isSameEntry(here, below))
+      return false; // the root is above itself
+    below = here;
+  }
+  return std::nullopt;
 }
 
 struct FolderCloser {
@@ -88,13 +119,15 @@ bool isReadableFolder(const std::string& path) {
 bool isSameEntry(const std::string& a, const std::string& b) {
   const auto first = statusOf(NativePath(a));
   const auto second = statusOf(NativePath(b));
-  return first && second && first->st_dev == second->st_dev && first->st_ino == second->st_ino;
+  return first && second && isSameEntry(*first, *second);
 }
 
 bool liesIn(const std::string& path, const std::string& folder) {
   // No such path can be made, and taking it apart would take very long.
   if (path.size() >= PATH_MAX || folder.size() >= PATH_MAX)
     return false;
+  if (const auto answer = isAboveExisting(folder, path))
+    return *answer;
   std::error_code error;
   const std::filesystem::path native = resolved(folder);
   std::filesystem::path place = resolved(path);

@@ -28,10 +28,10 @@ bool copyContents(const FileHandle& source, const FileHandle& target) {
 
 // Opens the target of a copy without touching its content yet: nothing is lost when it turns out
 // to be the source itself, or no file.
-bool openTarget(FileHandle& target, const char* path, const FileStatus& source) {
+bool openTarget(FileHandle& target, bool& isNew, const char* path, const FileStatus& source) {
   const bool isReadOnly = hasAttribute(source, FILE_ATTRIBUTE_READONLY);
   const DWORD attributes = isReadOnly ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL;
-  const bool isNew = target.open(path, GENERIC_WRITE, CREATE_NEW, attributes);
+  isNew = target.open(path, GENERIC_WRITE, CREATE_NEW, attributes);
   if (!isNew && !target.open(path, GENERIC_WRITE, OPEN_ALWAYS, attributes))
     return false;
   const auto status = target.status();
@@ -78,15 +78,19 @@ std::optional<DWORD> attributesToKeep(const std::string& path) {
 
 } // namespace
 
-bool copyFile(const std::string& source, const std::string& target) {
+CopyResult copyFile(const std::string& source, const std::string& target) {
   FileHandle from;
   if (!from.open(NativePath(source).get(), GENERIC_READ, OPEN_EXISTING))
-    return false;
+    return CopyResult::kFailed;
   const auto status = from.status();
   if (!isRegularFile(status))
-    return false;
+    return CopyResult::kFailed;
   FileHandle to;
-  return openTarget(to, NativePath(target).get(), *status) && copyContents(from, to) && to.close();
+  bool isNew = false;
+  if (openTarget(to, isNew, NativePath(target).get(), *status) && copyContents(from, to) &&
+      to.close())
+    return CopyResult::kCopied;
+  return isNew ? CopyResult::kMadePart : CopyResult::kFailed;
 }
 
 std::string unusedNameBeside(const std::string& path) {
