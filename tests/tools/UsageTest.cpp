@@ -66,7 +66,7 @@ TEST(Help, TellsTheCommandsAndTheExitStatuses) {
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
     for (const char* word :
-         {"tervix", "show", "files", "--version", "0 done, 1 failed, 2 wrong usage"})
+         {"tervix", "show", "files", "lib", "--version", "0 done, 1 failed, 2 wrong usage"})
       EXPECT_NE(run.output.find(word), std::string::npos) << run.output;
   }
 }

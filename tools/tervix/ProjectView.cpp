@@ -1,6 +1,5 @@
 #include "tools/tervix/ProjectView.h"
 
-#include <array>
 #include <filesystem>
 #include <list>
 #include <utility>
@@ -8,19 +7,12 @@
 #include <tvx_wobj.h>
 
 #include "model/FileSuffixes.h"
+#include "tools/tervix/VariantKinds.h"
 
 namespace tervix::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::array<VARIANTFILE_TYPE, 3> kVariantTypes = {
-    VARIANTFILE_TYPE_LIBRARY, VARIANTFILE_TYPE_STIMULUS, VARIANTFILE_TYPE_INCLUDE};
-constexpr std::array<const char*, 3> kVariantNames = {"library", "stimulus", "include"};
-
-const char* nameOf(VARIANTFILE_TYPE type) {
-  return kVariantNames.at(static_cast<std::size_t>(type));
-}
 
 // Reads one text of a node through its getter; empty when it is not set.
 template <class Object, class Getter> std::string textOf(Object& object, Getter getter) {
@@ -56,11 +48,11 @@ ProfileView viewOf(CTervixProfile& profile) {
   view.folder = textOf(profile, &CTervixProfile::getFolderPath);
   view.markerKey = textOf(profile, &CTervixProfile::getMarkerKey);
   view.sim = namedFile("sim", textOf(profile, &CTervixProfile::getPath), view.folder);
-  for (const VARIANTFILE_TYPE type : kVariantTypes) {
+  for (const auto& [type, kind] : kVariantKinds) {
     std::string file;
     profile.getTopProfileLevelFile(file, type);
     for (; !file.empty(); profile.getNextProfileLevelFile(file, type))
-      view.variants.push_back(namedFile(nameOf(type), file, view.folder));
+      view.variants.push_back(namedFile(kind, file, view.folder));
   }
   for (std::size_t type = 0; type < kProfileFileSuffixes.size(); ++type) {
     std::string file;
@@ -127,11 +119,11 @@ ProjectView viewOf(CTervixProject& project) {
     view.outputFile = namedFile("output", file, view.folder);
   project.getRootSchematic(view.rootSchematic);
   project.getActiveProfile(view.activeProfile);
-  for (const VARIANTFILE_TYPE type : kVariantTypes) {
+  for (const auto& [type, kind] : kVariantKinds) {
     std::string file;
     project.getTopDesignLevelFile(file, type);
     for (; !file.empty(); project.getNextDesignLevelFile(file, type))
-      view.variants.push_back(namedFile(nameOf(type), file, view.folder));
+      view.variants.push_back(namedFile(kind, file, view.folder));
   }
   CTervixNode* schematic = nullptr;
   project.getTopSchematic(schematic);

@@ -2,6 +2,7 @@
 
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tools/tervix/Style.h"
@@ -20,6 +21,8 @@ public:
   };
 
   void add(std::vector<Cell> row) { rows_.push_back(std::move(row)); }
+  // One more cell in the last row.
+  void addToLast(Cell cell) { rows_.back().push_back(std::move(cell)); }
   void print(std::ostream& out, const Style& style) const;
 
 private:

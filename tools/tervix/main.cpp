@@ -13,6 +13,7 @@
 #include "tools/tervix/ShowCommand.h"
 #include "tools/tervix/commands/DesignCommand.h"
 #include "tools/tervix/commands/FilesCommand.h"
+#include "tools/tervix/commands/LibCommand.h"
 #include "tools/tervix/commands/ProfileCommand.h"
 #include "tools/tervix/commands/ProjectCommand.h"
 #include "tools/tervix/commands/SchematicCommand.h"
@@ -66,6 +67,7 @@ int run(int argc, char** argv) {
   app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
   addShowCommand(app);
   addFilesCommand(app);
+  addLibCommand(app);
   addProfileCommand(app);
   addSchematicCommand(app);
   addDesignCommand(app);

@@ -69,6 +69,9 @@ void writeNewFile(const std::string& path, const std::string& content) {
 
 void writeFile(const std::string& path, const std::string& content) {
   const fs::path place = fs::canonical(path);
+  // That the new content comes as another file must not get round a protection of the old one.
+  if (!std::ofstream(place, std::ios::binary | std::ios::app))
+    throw Failure("\"" + path + "\" may not be written");
   const std::string written = unusedNameBeside(place);
   writeStream(written, content);
   std::error_code error;

@@ -29,6 +29,14 @@ std::string placeOf(const NamedPath& named) {
   return fs::path(full).lexically_normal().generic_string();
 }
 
+std::string relativeToTheLibrary(const std::string& path) {
+  const std::string text = forward(path);
+  const bool looksFull = !isFull(text) && text.size() > 2 && text[2] == '/' &&
+                         !startsWith(text, "../") && !startsWith(text, "./");
+  const char* here = path.find('\\') != std::string::npos ? ".\\" : "./";
+  return looksFull ? here + path : path;
+}
+
 std::string renamedText(const NamedPath& named, const std::string& newBase, const PathMap& map) {
   const std::string newPlace = map(placeOf(named));
   if (newPlace == placeOf({named.text, newBase}))
@@ -37,11 +45,8 @@ std::string renamedText(const NamedPath& named, const std::string& newBase, cons
   std::string renamed = newPlace;
   if (!isFull(text)) {
     renamed = fs::path(newPlace).lexically_relative(newBase).generic_string();
-    // "ab/x" would not count as relative: two letters and a slash look like a drive to the
-    // library.
-    const bool looksFull = renamed.size() > 2 && renamed[2] == '/' && !startsWith(renamed, "../");
-    if (!startsWith(renamed, "../") && (startsWith(text, "./") || looksFull))
-      renamed.insert(0, "./");
+    renamed = startsWith(text, "./") && !startsWith(renamed, "../") ? "./" + renamed
+                                                                    : relativeToTheLibrary(renamed);
   }
   if (named.text.find('\\') != std::string::npos)
     std::replace(renamed.begin(), renamed.end(), '/', '\\');

@@ -15,6 +15,10 @@ struct NamedPath {
 // The full path that a text names, with forward slashes and without "." and "..".
 std::string placeOf(const NamedPath& named);
 
+// The path with "./" in front if it is relative and the library would not take it so: two letters
+// and a slash, as in "ab/x", look like a drive to it.
+std::string relativeToTheLibrary(const std::string& path);
+
 // The text that names the same file after a change, seen from newBase, in the manner of the old
 // text: relative or full, with its kind of separators. A text that still holds stays as it is.
 std::string renamedText(const NamedPath& named, const std::string& newBase, const PathMap& map);

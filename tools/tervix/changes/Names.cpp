@@ -46,7 +46,7 @@ const char* reasonAgainst(const std::string& name) {
 
 } // namespace
 
-bool isSameName(const std::string& a, const std::string& b) {
+bool isSameName(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return lowered(x) == lowered(y); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace tervix::tool {
 
@@ -10,6 +11,6 @@ namespace tervix::tool {
 void requireUsableName(const std::string& name, const char* what);
 
 // Whether two names are the same to a file system that ignores case.
-bool isSameName(const std::string& a, const std::string& b);
+bool isSameName(std::string_view a, std::string_view b);
 
 } // namespace tervix::tool

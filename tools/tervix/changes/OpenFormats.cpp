@@ -18,6 +18,9 @@ constexpr const char* kProfiles = "Simulation Profiles";
 constexpr const char* kActive = "Active";
 constexpr const char* kDesignResources = "Design Resources";
 constexpr const char* kOutputFile = "TERVIX_Output_File";
+constexpr const char* kModelFiles = "Tervix Resources";
+constexpr std::array<const char*, 3> kModelItems = {"Model Libraries", "Stimulus Files",
+                                                    "Include Files"};
 
 struct PathList {
   const char* section;
@@ -25,11 +28,12 @@ struct PathList {
 };
 
 // Every list of files in a project file.
-constexpr std::array<PathList, 5> kPathLists = {{{kDesignResources, kFiles},
-                                                 {"Tervix Resources", "Model Libraries"},
-                                                 {"Tervix Resources", "Stimulus Files"},
-                                                 {"Tervix Resources", "Include Files"},
-                                                 {kProfiles, kFiles}}};
+constexpr std::array<PathList, 5> kPathLists = {
+    {{kModelFiles, kModelItems[VARIANTFILE_TYPE_LIBRARY]},
+     {kModelFiles, kModelItems[VARIANTFILE_TYPE_STIMULUS]},
+     {kModelFiles, kModelItems[VARIANTFILE_TYPE_INCLUDE]},
+     {kDesignResources, kFiles},
+     {kProfiles, kFiles}}};
 
 Failure unreadable(const std::string& path) {
   const auto mistake = formats::lastMistake();
@@ -131,6 +135,18 @@ void OpenFormatFile::addProfileLike(const std::function<bool(const std::string&)
   for (const std::string& element : list(kProfiles, kFiles))
     if (matches(element))
       return addProfile(newFile(element));
+}
+
+std::vector<std::string> OpenFormatFile::modelFiles(VARIANTFILE_TYPE kind) const {
+  return list(kModelFiles, kModelItems.at(kind));
+}
+
+void OpenFormatFile::addModelFile(VARIANTFILE_TYPE kind, const std::string& file) {
+  require(file_.addToList(kModelFiles, kModelItems.at(kind), file));
+}
+
+void OpenFormatFile::removeModelFile(VARIANTFILE_TYPE kind, std::size_t index) {
+  require(file_.removeElement(kModelFiles, kModelItems.at(kind), index));
 }
 
 } // namespace tervix::tool

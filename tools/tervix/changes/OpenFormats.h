@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "TervixFiles.h"
 #include "readers/formats/EditableFile.h"
 
 namespace tervix::tool {
@@ -30,6 +31,11 @@ public:
   void removeProfiles(const std::function<bool(const std::string&)>& matches);
   void addProfileLike(const std::function<bool(const std::string&)>& matches,
                       const std::function<std::string(const std::string&)>& newFile);
+
+  // A project file: the model files of the design.
+  std::vector<std::string> modelFiles(VARIANTFILE_TYPE kind) const;
+  void addModelFile(VARIANTFILE_TYPE kind, const std::string& file);
+  void removeModelFile(VARIANTFILE_TYPE kind, std::size_t index);
 
 private:
   void require(bool done) const;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "tools/tervix/changes/IncludeList.h"
 #include "tools/tervix/changes/NamedPath.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/changes/SimText.h"

@@ -26,11 +26,6 @@ using SimValue = std::function<std::optional<std::string>(SimKey, const std::str
 // line without quotes has no value and stays.
 std::string rewrittenSim(std::string_view text, const SimValue& newValue);
 
-// The same for the entries of an include list.
-std::string
-rewrittenIncludeList(std::string_view text,
-                     const std::function<std::optional<std::string>(const std::string&)>& newPath);
-
 // The value of the first line with that key; empty without one.
 std::string simValueOf(std::string_view text, SimKey key);
 
