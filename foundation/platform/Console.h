@@ -6,4 +6,8 @@ namespace tervix::platform {
 // NO_COLOR. Also prepares a console that has to be told.
 bool standardOutputTakesColour();
 
+// Whether standard error is a terminal on which a line can be drawn anew. Also prepares a console
+// that has to be told.
+bool standardErrorTakesProgress();
+
 } // namespace tervix::platform

@@ -1,9 +1,11 @@
 #include "tests/tools/ToolRun.h"
 
+#include <csignal>
 #include <cstdlib>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -37,6 +39,11 @@ void prepareChild(const RunOptions& options, const std::string& output, const st
     redirect("/dev/full", O_WRONLY, STDOUT_FILENO);
   else
     redirect(output.c_str(), O_WRONLY | O_CREAT, STDOUT_FILENO);
+  if (options.largestFile) {
+    const rlimit limit = {*options.largestFile, *options.largestFile};
+    if (std::signal(SIGXFSZ, SIG_IGN) == SIG_ERR || setrlimit(RLIMIT_FSIZE, &limit) != 0)
+      _exit(kCannotRun);
+  }
   if (!options.folder.empty() && chdir(options.folder.c_str()) != 0)
     _exit(kCannotRun);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct RunOptions {
   std::string folder;
   std::map<std::string, std::string> environment; // beyond that of the test; "" removes a variable
   Output output = Output::kCaptured;
+  std::optional<unsigned long> largestFile =
+      std::nullopt; // in bytes; a write beyond fails, as on a full disk
 };
 
 struct ToolRun {

@@ -11,6 +11,7 @@
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/ShowCommand.h"
+#include "tools/tervix/commands/ArchiveCommand.h"
 #include "tools/tervix/commands/DesignCommand.h"
 #include "tools/tervix/commands/FilesCommand.h"
 #include "tools/tervix/commands/LibCommand.h"
@@ -72,6 +73,7 @@ int run(int argc, char** argv) {
   addSchematicCommand(app);
   addDesignCommand(app);
   addProjectCommand(app);
+  addArchiveCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

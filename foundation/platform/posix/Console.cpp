@@ -7,14 +7,22 @@
 
 namespace tervix::platform {
 
-bool standardOutputTakesColour() {
-  if (isatty(STDOUT_FILENO) == 0)
-    return false;
-  const char* refused = std::getenv("NO_COLOR"); // NOLINT(concurrency-mt-unsafe)
-  if (refused != nullptr && *refused != '\0')
-    return false;
+namespace {
+
+bool isSmartTerminal(int file) {
   const char* terminal = std::getenv("TERM"); // NOLINT(concurrency-mt-unsafe)
-  return terminal != nullptr && std::string_view(terminal) != "dumb";
+  return isatty(file) != 0 && terminal != nullptr && std::string_view(terminal) != "dumb";
+}
+
+} // namespace
+
+bool standardOutputTakesColour() {
+  const char* refused = std::getenv("NO_COLOR"); // NOLINT(concurrency-mt-unsafe)
+  return isSmartTerminal(STDOUT_FILENO) && (refused == nullptr || *refused == '\0');
+}
+
+bool standardErrorTakesProgress() {
+  return isSmartTerminal(STDERR_FILENO);
 }
 
 } // namespace tervix::platform

@@ -6,16 +6,25 @@
 
 namespace tervix::platform {
 
-bool standardOutputTakesColour() {
-  const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+namespace {
+
+// Whether it is a console and knows sequences, which it does once it is told.
+bool takesSequences(DWORD file) {
+  const HANDLE output = GetStdHandle(file);
   DWORD mode = 0;
-  if (output == INVALID_HANDLE_VALUE || GetConsoleMode(output, &mode) == 0)
-    return false;
+  return output != INVALID_HANDLE_VALUE && GetConsoleMode(output, &mode) != 0 &&
+         SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+} // namespace
+
+bool standardOutputTakesColour() {
   const char* refused = std::getenv("NO_COLOR");
-  if (refused != nullptr && *refused != '\0')
-    return false;
-  // Fails on consoles that know no colour sequences.
-  return SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+  return (refused == nullptr || *refused == '\0') && takesSequences(STD_OUTPUT_HANDLE);
+}
+
+bool standardErrorTakesProgress() {
+  return takesSequences(STD_ERROR_HANDLE);
 }
 
 } // namespace tervix::platform

@@ -23,6 +23,13 @@ struct ChangePlan {
     std::string content;
   };
 
+  // What the person has to know beside the steps: something that was found and is left as it is.
+  struct Remark {
+    std::string kind; // one word, for programs
+    std::string path;
+    std::string text;
+  };
+
   std::string title; // "rename profile tran to ac"
   std::vector<std::string> madeFolders;
   std::vector<Made> made;
@@ -36,6 +43,11 @@ struct ChangePlan {
 
   // Opens the project as it is to be; throws a Failure if it does not.
   std::function<void()> check;
+
+  std::vector<Remark> remarks;
+
+  // Told of each new file before its content is completed, which may take long.
+  std::function<void(const Made&)> progress;
 
   // The project file from which the project opens afterwards.
   std::string projectFile;

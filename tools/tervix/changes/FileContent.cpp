@@ -6,6 +6,7 @@
 
 #include "TervixFiles.h"
 #include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 
 namespace tervix::tool {
 namespace {
@@ -19,7 +20,7 @@ void writeStream(const std::string& path, const std::string& content) {
   if (!stream) {
     std::error_code error;
     fs::remove(path, error);
-    throw Failure("\"" + path + "\" could not be written");
+    throw Failure(inQuotes(path) + " could not be written");
   }
 }
 
@@ -42,7 +43,7 @@ std::string contentOf(const std::string& path) {
   if (isFile && fs::file_size(path) != 0)
     content << stream.rdbuf();
   if (!isFile || !stream || !content)
-    throw Failure("\"" + path + "\" could not be read");
+    throw Failure(inQuotes(path) + " could not be read");
   return content.str();
 }
 
@@ -63,7 +64,7 @@ bool haveSameContent(const std::string& a, const std::string& b) {
 
 void writeNewFile(const std::string& path, const std::string& content) {
   if (fs::exists(fs::symlink_status(path)))
-    throw Failure("\"" + path + "\" is there already");
+    throw Failure(inQuotes(path) + " is there already");
   writeStream(path, content);
 }
 
@@ -81,7 +82,7 @@ void writeFile(const std::string& path, const std::string& content) {
   if (error) {
     std::error_code ignored;
     fs::remove(written, ignored);
-    throw Failure("\"" + path + "\" could not be rewritten: " + error.message());
+    throw Failure(inQuotes(path) + " could not be rewritten: " + error.message());
   }
 }
 
@@ -89,7 +90,7 @@ void copyFile(const std::string& source, const std::string& target) {
   std::string from = source;
   std::string to = target;
   if (cpFile(from, to) != 0 || !haveSameContent(source, target))
-    throw Failure("\"" + source + "\" could not be copied to \"" + target + "\"");
+    throw Failure(inQuotes(source) + " could not be copied to " + inQuotes(target));
 }
 
 } // namespace tervix::tool

@@ -26,7 +26,8 @@ std::vector<Step> stepsOf(const ChangePlan& plan) {
       steps.push_back({made.isCopy ? "move" : "move and rewrite", made.path, made.source});
       moved.push_back(made.source);
     } else {
-      steps.push_back({made.source.empty() ? "make" : "copy", made.path, made.source});
+      const char* copied = made.isCopy ? "copy" : "copy and rewrite";
+      steps.push_back({made.source.empty() ? "make" : copied, made.path, made.source});
     }
   }
   for (const ChangePlan::Rewritten& file : plan.rewritten)
@@ -49,6 +50,13 @@ void printPlan(std::ostream& out, const ChangePlan& plan, bool done) {
       out << printable(step.from) << " -> ";
     out << printable(step.path) << "\n";
   }
+  printRemarks(out, plan);
+}
+
+void printRemarks(std::ostream& out, const ChangePlan& plan) {
+  for (const ChangePlan::Remark& remark : plan.remarks)
+    out << "  " << remark.kind << "  " << printable(remark.path) << ": " << printable(remark.text)
+        << "\n";
 }
 
 void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done) {
@@ -59,11 +67,12 @@ void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done) {
       json["from"] = step.from;
     steps.push_back(std::move(json));
   }
-  const Json json = {{"version", 1},
-                     {"change", plan.title},
-                     {"done", done},
-                     {"project", plan.projectFile},
-                     {"steps", steps}};
+  Json remarks = Json::array();
+  for (const ChangePlan::Remark& remark : plan.remarks)
+    remarks.push_back({{"kind", remark.kind}, {"path", remark.path}, {"text", remark.text}});
+  const Json json = {{"version", 1},   {"change", plan.title},
+                     {"done", done},   {"project", plan.projectFile},
+                     {"steps", steps}, {"remarks", remarks}};
   out << textOf(json) << "\n";
 }
 

@@ -10,4 +10,7 @@ namespace tervix::tool {
 void printPlan(std::ostream& out, const ChangePlan& plan, bool done);
 void printPlanAsJson(std::ostream& out, const ChangePlan& plan, bool done);
 
+// Prints what else the person has to know, a line for each; part of a printed plan.
+void printRemarks(std::ostream& out, const ChangePlan& plan);
+
 } // namespace tervix::tool

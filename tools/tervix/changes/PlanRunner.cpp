@@ -5,6 +5,7 @@
 
 #include "TervixFiles.h"
 #include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/FileContent.h"
 
 namespace tervix::tool {
@@ -20,7 +21,7 @@ bool isThere(const std::string& path) {
 std::string listed(const std::vector<std::string>& paths) {
   std::string text;
   for (const std::string& path : paths)
-    text += "\n  " + path;
+    text += "\n  " + printable(path);
   return text;
 }
 
@@ -45,7 +46,7 @@ private:
   void refuseTaken() const {
     for (const ChangePlan::Made& made : plan_.made)
       if (isThere(made.path))
-        throw Failure("\"" + made.path + "\" is there already; nothing was changed");
+        throw Failure(inQuotes(made.path) + " is there already; nothing was changed");
   }
 
   void makeNew() {
@@ -58,8 +59,11 @@ private:
     }
     for (const auto& call : plan_.libraryCalls)
       call();
-    for (const ChangePlan::Made& made : plan_.made)
+    for (const ChangePlan::Made& made : plan_.made) {
+      if (plan_.progress)
+        plan_.progress(made);
       complete(made);
+    }
     removeStrays();
   }
 
@@ -87,7 +91,7 @@ private:
       makeFolder(above);
     std::string path = folder;
     if (createDir(path) != 0)
-      throw Failure("the folder \"" + folder + "\" could not be made");
+      throw Failure("the folder " + inQuotes(folder) + " could not be made");
     newFolders_.push_back(folder);
   }
 

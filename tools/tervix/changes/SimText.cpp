@@ -38,6 +38,16 @@ std::string rewrittenSim(std::string_view text, const SimValue& newValue) {
   });
 }
 
+std::string
+rewrittenOtherKeys(std::string_view text,
+                   const std::function<std::optional<std::string>(const std::string&)>& newValue) {
+  return rewrittenLines(
+      text, [&](std::string_view line, const std::string& value) -> std::optional<std::string> {
+        const bool hasKey = line.find_first_of(" \t#\"") != 0;
+        return hasKey && keyOf(line) == nullptr ? newValue(value) : std::nullopt;
+      });
+}
+
 std::string simValueOf(std::string_view text, SimKey key) {
   while (!text.empty()) {
     const std::string_view line = takeLine(text);

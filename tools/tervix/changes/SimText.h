@@ -26,6 +26,11 @@ using SimValue = std::function<std::optional<std::string>(SimKey, const std::str
 // line without quotes has no value and stays.
 std::string rewrittenSim(std::string_view text, const SimValue& newValue);
 
+// The same for the lines with any other key, which belong to other programs.
+std::string
+rewrittenOtherKeys(std::string_view text,
+                   const std::function<std::optional<std::string>(const std::string&)>& newValue);
+
 // The value of the first line with that key; empty without one.
 std::string simValueOf(std::string_view text, SimKey key);
 
