@@ -18,6 +18,8 @@
 #include "tools/tervix/commands/ProfileCommand.h"
 #include "tools/tervix/commands/ProjectCommand.h"
 #include "tools/tervix/commands/SchematicCommand.h"
+#include "tools/tervix/usage/CommandTree.h"
+#include "tools/tervix/usage/HelpLayout.h"
 
 namespace {
 
@@ -63,9 +65,10 @@ int answer(const CLI::App& app, const CLI::ParseError& error) {
 
 int run(int argc, char** argv) {
   CLI::App app("Look into and change circuit-simulation projects", "tervix");
-  app.set_version_flag("--version", "tervix " TERVIX_VERSION);
+  setHelpLayout(app);
+  app.set_version_flag("--version", "tervix " TERVIX_VERSION, "Print the version");
   app.require_subcommand(1);
-  app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
+  addCommandTreeOption(app);
   addShowCommand(app);
   addFilesCommand(app);
   addLibCommand(app);
