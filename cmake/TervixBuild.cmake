@@ -20,6 +20,12 @@ if(WIN32)
   set(CMAKE_SHARED_LIBRARY_PREFIX "") # MinGW has "lib"; a library's name is that of its target
 endif()
 
+# Where the readers are installed: on Windows beside the library.
+set(TERVIX_READERS_DIR ${CMAKE_INSTALL_LIBDIR}/tervixexplorer)
+if(WIN32)
+  set(TERVIX_READERS_DIR ${CMAKE_INSTALL_BINDIR})
+endif()
+
 add_library(tervix_warnings INTERFACE)
 target_compile_options(tervix_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor

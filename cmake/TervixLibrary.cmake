@@ -13,7 +13,8 @@ set_target_properties(TervixExplorer PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
   BUILD_WITH_INSTALL_RPATH ON # else it is padded with empty entries: the current folder
-  INSTALL_RPATH "$ORIGIN${TERVIX_TVX_WOBJ_RPATH}")
+  # The readers: as built, and as installed.
+  INSTALL_RPATH "$ORIGIN;$ORIGIN/tervixexplorer${TERVIX_TVX_WOBJ_RPATH}")
 if(NOT WIN32)
   # Templates of the standard library that the compiler instantiated here are nobody's business.
   target_link_options(TervixExplorer PRIVATE

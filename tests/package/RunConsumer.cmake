@@ -1,6 +1,6 @@
 cmake_minimum_required(VERSION 3.22)
-# Installs the library into a folder of its own, builds a program outside the project with
-# find_package, and lets it open each sample.
+# Installs the library into a folder of its own, moves that, builds programs outside the project
+# with find_package and with pkg-config, and lets them open samples.
 file(REMOVE_RECURSE ${WORK})
 function(run)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE result)
@@ -10,10 +10,27 @@ function(run)
   set(output "${output}" PARENT_SCOPE)
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
-run(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK}/build -DCMAKE_PREFIX_PATH=${WORK}/prefix
-  -DCMAKE_CXX_COMPILER=${COMPILER} "-DCMAKE_CXX_FLAGS=${FLAGS}" -DCMAKE_BUILD_TYPE=Debug)
-run(${CMAKE_COMMAND} --build ${WORK}/build)
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
+file(RENAME ${WORK}/installed ${WORK}/prefix)
+function(build source)
+  run(${CMAKE_COMMAND} -S ${source} -B ${WORK}/build/${ARGV1} -DCMAKE_PREFIX_PATH=${WORK}/prefix
+    -DCMAKE_CXX_COMPILER=${COMPILER} "-DCMAKE_CXX_FLAGS=${FLAGS}" -DCMAKE_BUILD_TYPE=Debug)
+  run(${CMAKE_COMMAND} --build ${WORK}/build/${ARGV1})
+endfunction()
+build(${SOURCE} consumer)
+build(${EXAMPLES}/front-end front_end)
+# Destroyed or not: programs may end with their tree alive.
+set(ENV{ASAN_OPTIONS} detect_leaks=0)
+run(sh ${SOURCE}/../front_end_test.sh ${WORK}/build/front_end/front_end ${EXAMPLES})
+
+find_program(PKG_CONFIG pkg-config)
+if(PKG_CONFIG)
+  file(GLOB_RECURSE package ${WORK}/prefix/TervixExplorer.pc)
+  execute_process(COMMAND ${PKG_CONFIG} --cflags --libs ${package} OUTPUT_VARIABLE flags
+    COMMAND_ERROR_IS_FATAL ANY)
+  separate_arguments(flags UNIX_COMMAND "${flags} ${FLAGS}")
+  run(${COMPILER} -std=c++17 ${EXAMPLES}/list_profiles.cpp -o ${WORK}/list_profiles ${flags})
+endif()
 
 file(COPY ${EXAMPLES}/ DESTINATION ${WORK}/samples)
 foreach(sample
@@ -25,7 +42,7 @@ foreach(sample
   list(GET parts 0 file)
   list(GET parts 1 front_end)
   list(GET parts 2 expected)
-  run(${WORK}/build/consumer ${WORK}/samples/${file} ${front_end})
+  run(${WORK}/build/consumer/consumer ${WORK}/samples/${file} ${front_end})
   string(STRIP "${output}" found)
   if(NOT found STREQUAL expected)
     message(FATAL_ERROR "${file}: expected \"${expected}\", found \"${found}\"")
