@@ -1,5 +1,5 @@
 # What zsh offers after a line, in a shell of its own on a terminal of its own:
-# completion_test.zsh FOLDER, in examples/.
+# completion_test.zsh [FOLDER], in examples/; without a folder as installed.
 setopt no_unset
 zmodload zsh/zpty || exit 1
 failures=0
@@ -8,7 +8,7 @@ failures=0
 offered() {
   local text= part
   zpty shell zsh -f
-  zpty -w shell "fpath=(${(q)folder} \$fpath); autoload -Uz compinit && compinit -u -D; PS1=; PS2="
+  zpty -w shell "fpath=(${folder:+${(q)folder}} \$fpath); autoload -Uz compinit && compinit -u -D; PS1=; PS2="
   zpty -w shell "zstyle ':completion:*' menu no; setopt no_beep list_rows_first; LISTMAX=1000"
   zpty -w shell "bindkey '^I' complete-word; print @READY@"
   zpty -r shell part '*@READY@*@READY@*' # the echo of the line, then its output
@@ -33,7 +33,7 @@ expect() {
   done
 }
 
-folder=$1
+folder=${1:-}
 expect 'tervix sche' 'schematic'
 expect 'tervix profile ' activate add copy delete rename
 expect 'tervix show --fr' --front-end
