@@ -12,21 +12,25 @@ struct NodeCell;
 
 // In each of these enumerations 0 means "not set".
 
+// What an element of the tree is.
 enum NODE_TYPE : int {
-  NODE_TYPE_UNSET = 0,
+  NODE_TYPE_UNSET = 0,     // not known
   NODE_TYPE_PROJECT = 1,   // CTervixProject
   NODE_TYPE_SCHEMATIC = 2, // CTervixSchematic
   NODE_TYPE_PROFILE = 3    // CTervixProfile
 };
 
+// How the project was opened. A project is constructed with FRONTEND_ID_UNSET to be opened through
+// a profile or analysis file.
 enum FRONTEND_ID : int {
-  FRONTEND_ID_UNSET = 0,
+  FRONTEND_ID_UNSET = 0,        // not known
   FRONTEND_ID_PROJECT_FILE = 1, // the folder names the design; profiles are found on disk
   FRONTEND_ID_DESIGN_FILE = 2   // a design file lists schematics, the project file profiles
 };
 
+// Where the files of profiles lie.
 enum PROJECT_TYPE : int {
-  PROJECT_TYPE_UNSET = 0,
+  PROJECT_TYPE_UNSET = 0,     // not known
   PROJECT_TYPE_OTHER = 1,     // profile files lie in the schematic's folder
   PROJECT_TYPE_SIMULATION = 2 // each profile has a folder of its own
 };
@@ -39,11 +43,15 @@ enum PROJECT_TYPE : int {
 // any other output is left as it was. Otherwise it returns 0.
 class TERVIX_API CTervixNode {
 public:
+  // No field is set.
   CTervixNode();
+  // Copies every field; both have the same parent.
   CTervixNode(const CTervixNode& other);
+  // The parent stays.
   virtual ~CTervixNode();
 
-  // Saves or loads the variant lists of the profiles at and below this node.
+  // Saves or loads the variant lists of the profiles at and below this node; a class of yours that
+  // has none returns 0.
   virtual unsigned long writeVariants() = 0;
   virtual unsigned long readVariants() = 0;
 
@@ -51,15 +59,19 @@ public:
   CTervixNode& operator=(const CTervixNode& other); // NOLINT(misc-unconventional-assign-operator)
   unsigned long clone(CTervixNode& other);
 
+  // Sets a field, without a look at the disk. An unset value (0, null, empty) changes nothing.
+  // Always 0; the argument is left as it is.
   unsigned long setName(std::string& name);
   unsigned long setPath(std::string& path);
   unsigned long setFolderPath(std::string& folderPath);
   unsigned long setType(NODE_TYPE type);
   unsigned long setFrontEndId(FRONTEND_ID frontEndId);
   unsigned long setProjectType(PROJECT_TYPE projectType);
-  // The parent is not owned.
+  // Sets the parent, which is not owned; null changes nothing. Always 0.
   unsigned long setParent(CTervixNode* parent);
 
+  // Hands out a field as it was set. 1 when it is not set, a string then empty and any other output
+  // left as it was.
   unsigned long getName(std::string& name) const;
   unsigned long getPath(std::string& path) const;
   unsigned long getFolderPath(std::string& folderPath) const;

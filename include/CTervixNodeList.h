@@ -28,9 +28,11 @@ enum class NodeKey;
 // whose name or path is not set never matches.
 class TERVIX_API CTervixNodeList {
 public:
+  // Empty.
   CTervixNodeList();
-  // The copy's cursor stands at the same position of its own cells.
+  // The copy holds the same nodes. The copy's cursor stands at the same position of its own cells.
   CTervixNodeList(const CTervixNodeList& other);
+  // Deletes the nodes that the list still holds.
   virtual ~CTervixNodeList();
 
   // Makes this list hold the nodes of other. The nodes formerly held are not deleted, and the
@@ -70,7 +72,7 @@ public:
   unsigned long findNode(CTervixNode*& node, std::string& name);
   unsigned long findNodeWithPath(CTervixNode*& node, std::string& path);
 
-  // Always 0.
+  // Tells whether the list holds no node. Always 0.
   unsigned long isEmpty(bool& empty) const;
   // The count, and 1 when it is 0.
   unsigned long numberOfNodes(int& count) const;

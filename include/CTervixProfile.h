@@ -40,13 +40,16 @@ enum PROFILEFILE_TYPE : int {
 // must therefore not destroy the profiles that it opened.
 class TERVIX_API CTervixProfile : public CTervixNode {
 public:
+  // Only its type is set, and no list is loaded.
   CTervixProfile();
   // path is the ".sim" file. Any pointer may be null. Sets the folder, the include list path and
   // the marker key from path, name, project type and parents, and loads the include list; what
   // fails of that is left unset and not reported.
   CTervixProfile(const char* path, const char* name, const char* displayName,
                  FRONTEND_ID frontEndId, PROJECT_TYPE projectType, CTervixNode* parent);
+  // Copies every field and the lists; both belong to the same schematic.
   CTervixProfile(const CTervixProfile& other);
+  // Saves the lists as writeProfileLevelVariants does, whether or not they were changed.
   ~CTervixProfile() override;
 
   // The same as writeProfileLevelVariants and readProfileLevelVariants.
@@ -58,6 +61,7 @@ public:
   operator=(const CTervixProfile& other); // NOLINT(misc-unconventional-assign-operator)
   unsigned long clone(CTervixProfile& other);
 
+  // The schematic. As for any node.
   unsigned long setParent(CTervixNode* parent);
   unsigned long getParent(CTervixNode*& parent) const;
 
@@ -66,6 +70,8 @@ public:
   unsigned long setDisplayName(std::string& displayName);
   unsigned long getDisplayName(std::string& displayName) const;
 
+  // Whether this is the active profile. Setting it leaves other profiles and the project as they
+  // are (see CTervixProject::setActiveProfile). Always 0.
   unsigned long setActive(bool active);
   unsigned long isActive(bool& active) const;
 
@@ -84,7 +90,7 @@ public:
   // 1 when there is no folder to start from; the status of a missing front end or project type.
   unsigned long setDatFilePath(std::string& path);
   unsigned long setOutFilePath(std::string& path);
-  // 1, path left as it was, when none is set.
+  // The full path as it was stored. 1, path left as it was, when none is set.
   unsigned long getDatFilePath(std::string& path) const;
   unsigned long getOutFilePath(std::string& path) const;
 

@@ -17,11 +17,11 @@ class SimFile;
 
 // What the two names of a changed-name record belong to.
 enum RENAME_TYPE : int {
-  RENAME_TYPE_NONE = 0,
-  RENAME_TYPE_SCHEMATIC = 1,
-  RENAME_TYPE_PROFILE = 2,
-  RENAME_TYPE_DESIGN = 3,
-  RENAME_TYPE_PROJECT = 4 // the project, and with it its "-TervixFiles" folder
+  RENAME_TYPE_NONE = 0,      // no rename is recorded
+  RENAME_TYPE_SCHEMATIC = 1, // a schematic
+  RENAME_TYPE_PROFILE = 2,   // a profile
+  RENAME_TYPE_DESIGN = 3,    // the design
+  RENAME_TYPE_PROJECT = 4    // the project, and with it its "-TervixFiles" folder
 };
 
 // A simulation project: its design, schematics, profiles and design-level files.
@@ -44,6 +44,7 @@ enum RENAME_TYPE : int {
 // one thread at a time.
 class TERVIX_API CTervixProject : public CTervixNode {
 public:
+  // Only its type is set; initialize gives 1.
   CTervixProject();
   // The copy shares the schematics of other, whose parent other stays: use the copy no longer than
   // other lives.
@@ -55,6 +56,7 @@ public:
   // project file is looked for around it; flag and extra are not used.
   // Any other path leaves the project empty; initialize then says so. Nothing is recorded.
   CTervixProject(const char* path, FRONTEND_ID frontEndId, bool flag, const char* extra);
+  // Forgets the schematics without destroying them.
   ~CTervixProject() override;
 
   // Deliberate: both copy nothing.
@@ -78,8 +80,10 @@ public:
   // How long the last initialize took, in whole seconds.
   unsigned long setInitializationTime(long seconds);
   unsigned long getInitializationTime(long& seconds) const;
+  // The name of the design.
   unsigned long setDesignName(std::string& name);
   unsigned long getDesignName(std::string& name) const;
+  // The design file, and the folder that it lies in.
   unsigned long setDesignPath(std::string& path);
   unsigned long getDesignPath(std::string& path) const;
   unsigned long setDesignFolderPath(std::string& path);
@@ -89,7 +93,7 @@ public:
   unsigned long getTervixOutputFile(std::string& path) const;
   // PROJECT_TYPE_UNSET when it is not known.
   unsigned long getProjectType(PROJECT_TYPE& projectType) const;
-  // 1 when unset, as for any node.
+  // A project has no parent of its own; a client may give it one. 1 when unset, as for any node.
   unsigned long setParent(CTervixNode* parent);
   unsigned long getParent(CTervixNode*& parent) const;
 
@@ -133,6 +137,7 @@ public:
 
   // ---- Schematics ----
 
+  // The first, and each following, schematic in the order of the design; null with 0 at the end.
   unsigned long getTopSchematic(CTervixNode*& schematic);
   unsigned long getNextSchematic(CTervixNode*& schematic);
   // Finds by name; while a schematic rename is recorded also by the new name, spelt as recorded.
@@ -145,11 +150,13 @@ public:
   unsigned long deleteSchematic(std::string& name);
   // Forgets all schematics without destroying them. Always 0.
   unsigned long deleteAllSchematics();
+  // Always 0.
   unsigned long numberOfSchematics(int& count) const;
 
   // ---- Profiles ----
 
-  // 1: no such schematic, or no such profile in it.
+  // Finds by the names of the schematic and of the profile. 1: no such schematic, or no such
+  // profile in it.
   unsigned long findProfile(CTervixNode*& profile, std::string& schematicName,
                             std::string& profileName);
   // Finds the profile of a ".sim" file: by a recorded profile rename (no file is read then, and
@@ -169,20 +176,21 @@ public:
   // must name design file, project file and root schematic, and be named after its profile;
   // otherwise 10121.
   unsigned long addProfile(CTervixNode*& profile, bool& added, std::string& profileFilePath);
-  // 1: no root schematic.
+  // Make the root schematic hold a profile of that name, and hand it out. 1: no root schematic.
   unsigned long addProfileToRootSchematic(CTervixNode*& profile, std::string& profileName);
   unsigned long addProfileToRootSchematic(std::string& profileName);
 
   // Marks the root schematic's profiles of that display name active and all its others not.
   // An empty name changes nothing. 1: no root schematic.
   unsigned long setActiveProfile(std::string& displayName);
-  // 1 when none is set.
+  // The display name that setActiveProfile or initialize recorded. 1 when none is set.
   unsigned long getActiveProfile(std::string& displayName) const;
   // The root schematic's active profile; see CTervixSchematic::getActiveProfile.
   unsigned long getActiveProfile(CTervixNode*& profile);
   // Marks the schematic of that name as root and all others not. An empty name changes nothing.
   unsigned long setRootSchematic(std::string& name);
-  // 1 when none is set, or none of that name is listed.
+  // The name that setRootSchematic or initialize recorded, and the schematic of that name. 1 when
+  // none is set, or none of that name is listed.
   unsigned long getRootSchematic(std::string& name) const;
   unsigned long getRootSchematic(CTervixNode*& schematic);
 
@@ -194,7 +202,8 @@ public:
   unsigned long getNextDesignLevelFile(std::string& file, VARIANTFILE_TYPE type);
   // Appends file unless it is listed (case ignored).
   unsigned long addDesignLevelFile(std::string& file, VARIANTFILE_TYPE type);
-  // 0 also when file is not listed.
+  // Removes file from one list, and all entries of one or of all three. 0 also when file is not
+  // listed.
   unsigned long deleteDesignLevelFile(std::string& file, VARIANTFILE_TYPE type);
   unsigned long deleteAllDesignLevelFiles(VARIANTFILE_TYPE type);
   unsigned long deleteAllDesignLevelFiles();
@@ -262,12 +271,14 @@ public:
   // forwards to the operation of CTervixProfile. A look-up by file passes its status on; one by
   // names that finds nothing returns 0 and changes nothing (deliberate: test the output).
 
+  // CTervixProfile::setDatFilePath and setOutFilePath.
   unsigned long setDatFileForProfile(std::string& datFilePath, std::string& profileFilePath);
   unsigned long setDatFileForProfile(std::string& datFilePath, std::string& schematicName,
                                      std::string& profileName);
   unsigned long setOutFileForProfile(std::string& outFilePath, std::string& profileFilePath);
   unsigned long setOutFileForProfile(std::string& outFilePath, std::string& schematicName,
                                      std::string& profileName);
+  // The operation of CTervixProfile that has the same name, "ForSch" left out.
   unsigned long getTopProfileLevelFile(std::string& file, std::string& profileFilePath,
                                        VARIANTFILE_TYPE type);
   unsigned long getNextProfileLevelFile(std::string& file, std::string& profileFilePath,
@@ -281,7 +292,7 @@ public:
                                              std::string& profileName, VARIANTFILE_TYPE type);
   unsigned long getNextProfileLevelFileForSch(std::string& file, std::string& schematicName,
                                               std::string& profileName, VARIANTFILE_TYPE type);
-  // count is left as it was when nothing is found.
+  // CTervixProfile::numberOfProfileLevelFiles. count is left as it was when nothing is found.
   unsigned long getProfileLevelFileCount(int& count, std::string& schematicName,
                                          std::string& profileName, VARIANTFILE_TYPE type);
   // The netlist of the profile's schematic.
@@ -300,7 +311,7 @@ public:
   // The schematic of an ".aap" file; aapPath is rewritten with forward slashes and ".aap" for
   // ".$ap". 1 when there is none (deliberate: unlike simProfileExists).
   unsigned long aapExists(bool& exists, CTervixNode*& schematic, std::string& aapPath);
-  // Always 0.
+  // Tells whether a profile has that marker key. Always 0.
   unsigned long markerKeyExists(bool& exists, std::string& markerKey);
   // The names that a marker key stands for, empty when no profile has it. Always 0.
   unsigned long getDsnSchProfNamesForMarkerKey(std::string& designName, std::string& schematicName,

@@ -32,11 +32,14 @@ enum SCHEMATICFILE_TYPE : int {
 // the two before it is destroyed.
 class TERVIX_API CTervixSchematic : public CTervixNode {
 public:
+  // Only its type is set.
   CTervixSchematic();
-  // Any pointer may be null: that field then stays unset.
+  // path is the folder. Any pointer may be null: that field then stays unset.
   CTervixSchematic(const char* path, const char* name, FRONTEND_ID frontEndId,
                    PROJECT_TYPE projectType, CTervixNode* parent);
+  // The copy holds the same profiles.
   CTervixSchematic(const CTervixSchematic& other);
+  // Destroys the profiles too, which saves their include lists.
   ~CTervixSchematic() override;
 
   // Call the same operation of every profile; their statuses are ignored. Always 0.
@@ -48,6 +51,7 @@ public:
   operator=(const CTervixSchematic& other); // NOLINT(misc-unconventional-assign-operator)
   unsigned long clone(CTervixSchematic& other);
 
+  // The project. As for any node.
   unsigned long setParent(CTervixNode* parent);
   unsigned long getParent(CTervixNode*& parent) const;
 
@@ -87,6 +91,8 @@ public:
   // is the folder itself, a bare name leaves the project's folder.
   unsigned long getSchematicBasedFile(std::string& file, std::string& suffix, bool useNewName);
 
+  // Whether this is the root schematic. Setting it leaves other schematics and the project as they
+  // are (see CTervixProject::setRootSchematic). Always 0.
   unsigned long setRoot(bool root);
   unsigned long isRoot(bool& root);
 
