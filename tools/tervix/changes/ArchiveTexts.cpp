@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/IncludeList.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/changes/OpenFormats.h"
 #include "tools/tervix/changes/SimText.h"
