@@ -21,11 +21,14 @@ bool isFileThere(const std::string& path) {
   return platform::isTaken(path) && !platform::isFolder(path);
 }
 
-// Half a copy would pass for a whole one the next time.
-bool copyWhole(std::string& source, std::string& target) {
-  if (cpFile(source, target) == 0)
+// The copy is complete under a name of its own before it takes its place: half a copy, left by a
+// process that was killed, would pass for a whole one the next time.
+bool copyWhole(std::string& source, const std::string& target) {
+  std::string arriving = platform::unusedNameBeside(target);
+  if (cpFile(source, arriving) == 0 &&
+      platform::moveEntry(arriving, target) == platform::MoveResult::kMoved)
     return true;
-  rmFile(target);
+  rmFile(arriving);
   return false;
 }
 

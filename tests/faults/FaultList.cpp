@@ -1,0 +1,65 @@
+#include "tests/faults/FaultList.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
+#include <gtest/gtest.h>
+
+namespace tervix::testing {
+namespace {
+
+constexpr std::size_t kEarlyStep = 7;
+
+int tried = 0;
+int survived = 0;
+
+int failuresSoFar() {
+  const auto* const test = ::testing::UnitTest::GetInstance()->current_test_info();
+  return test == nullptr ? 0 : test->result()->total_part_count();
+}
+
+} // namespace
+
+bool isEveryFaultTried() {
+  return std::getenv("TERVIX_EVERY_FAULT") != nullptr;
+}
+
+std::vector<Fault> faultsFor(const std::vector<MadeCall>& calls) {
+  const auto isChange = [](const MadeCall& call) { return call.changes; };
+  const auto firstChange =
+      static_cast<std::size_t>(std::find_if(calls.begin(), calls.end(), isChange) - calls.begin());
+  std::vector<Fault> faults;
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    const MadeCall& call = calls[i];
+    const bool isWhole = isEveryFaultTried() || call.changes;
+    if (!isWhole && i < firstChange && i % kEarlyStep != 0)
+      continue;
+    if (isWhole)
+      for (const int error : call.errors)
+        faults.push_back({Fault::Kind::kError, i, error});
+    else
+      faults.push_back({Fault::Kind::kError, i, call.errors[i % call.errors.size()]});
+    if (isWhole)
+      faults.push_back({Fault::Kind::kKill, i, 0});
+    if (call.canBeShort)
+      faults.push_back({Fault::Kind::kShort, i, 0});
+    if (call.takesRoom)
+      faults.push_back({Fault::Kind::kFullDisk, i, 0});
+  }
+  return faults;
+}
+
+FaultTally::FaultTally() : failuresBefore_(failuresSoFar()) {}
+
+FaultTally::~FaultTally() {
+  ++tried;
+  if (failuresSoFar() == failuresBefore_)
+    ++survived;
+}
+
+void printFaultTally() {
+  std::cout << "faults: " << tried << " tried, " << survived << " survived" << std::endl;
+}
+
+} // namespace tervix::testing
