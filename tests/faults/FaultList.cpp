@@ -10,6 +10,7 @@ namespace tervix::testing {
 namespace {
 
 constexpr std::size_t kEarlyStep = 7;
+constexpr std::size_t kSparseStep = 17;
 
 int tried = 0;
 int survived = 0;
@@ -25,26 +26,29 @@ bool isEveryFaultTried() {
   return std::getenv("TERVIX_EVERY_FAULT") != nullptr;
 }
 
-std::vector<Fault> faultsFor(const std::vector<MadeCall>& calls) {
+std::vector<Fault> faultsFor(const std::vector<MadeCall>& calls, Choice choice) {
   const auto isChange = [](const MadeCall& call) { return call.changes; };
   const auto firstChange =
       static_cast<std::size_t>(std::find_if(calls.begin(), calls.end(), isChange) - calls.begin());
+  const bool isEvery = isEveryFaultTried();
+  const bool isSome = choice == Choice::kSome && !isEvery;
   std::vector<Fault> faults;
   for (std::size_t i = 0; i < calls.size(); ++i) {
     const MadeCall& call = calls[i];
-    const bool isWhole = isEveryFaultTried() || call.changes;
-    if (!isWhole && i < firstChange && i % kEarlyStep != 0)
+    const bool isWhole = isEvery || call.changes;
+    const std::size_t step = isSome ? kSparseStep : i < firstChange ? kEarlyStep : 1;
+    if (!isWhole && i % step != 0)
       continue;
-    if (isWhole)
+    if (isWhole && !isSome)
       for (const int error : call.errors)
         faults.push_back({Fault::Kind::kError, i, error});
     else
       faults.push_back({Fault::Kind::kError, i, call.errors[i % call.errors.size()]});
     if (isWhole)
       faults.push_back({Fault::Kind::kKill, i, 0});
-    if (call.canBeShort)
+    if (call.canBeShort && (!isSome || i % 2 == 0))
       faults.push_back({Fault::Kind::kShort, i, 0});
-    if (call.takesRoom)
+    if (call.takesRoom && (!isSome || i % 4 == 0))
       faults.push_back({Fault::Kind::kFullDisk, i, 0});
   }
   return faults;

@@ -80,7 +80,8 @@ public:
                PTRACE_O_EXITKILL | PTRACE_O_TRACESECCOMP | PTRACE_O_TRACEEXEC | PTRACE_O_TRACEEXIT |
                    PTRACE_O_TRACESYSGOOD) != 0)
       return refuse();
-    while (goOn() && waitpid(process_, &status, 0) == process_) {
+    // One that was killed cannot be told to go on, and still has to be waited for.
+    while ((goOn() || run_.wasKilled) && waitpid(process_, &status, 0) == process_) {
       if (!WIFSTOPPED(status)) {
         run_.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
         return run_.status == kNotAllowed ? refuse() : void();

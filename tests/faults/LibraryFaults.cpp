@@ -73,7 +73,7 @@ public:
     ASSERT_EQ(answer.status, 0U) << answer.text;
     ASSERT_FALSE(plain.calls.empty());
     calls_ = &plain.calls;
-    for (const Fault& fault : faultsFor(plain.calls))
+    for (const Fault& fault : faultsFor(plain.calls, Choice::kMost))
       tryFault(fault);
   }
 

@@ -69,11 +69,15 @@ void requireFile(const std::string& file) {
     throw Failure(inQuotes(file) + " is a folder, not a project file");
 }
 
+std::string withForwardSlashes(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return path;
+}
+
 } // namespace
 
 CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd) {
-  std::string file = path;
-  std::replace(file.begin(), file.end(), '\\', '/');
+  const std::string file = withForwardSlashes(path);
   requireFile(file);
   const FileKind kind = kindOf(file);
   const fs::path full = fullPathOf(file);
@@ -83,10 +87,21 @@ CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd
   projects.push_back(project);
   if (const unsigned long status = project->initialize(); status != 0)
     throw libraryFailure(status, inQuotes(file) + " could not be opened as a project");
-  std::string projectFile;
-  if (project->getPath(projectFile) != 0)
+  if (projectFileOf(*project).empty())
     throw failureWithLastError("no project file (.tvp) was found for " + inQuotes(file));
   return *project;
+}
+
+std::string projectFileFor(const std::string& path, std::optional<int> frontEnd) {
+  const std::string file = withForwardSlashes(path);
+  return kindOf(file) == FileKind::kProject ? fullPathOf(file).generic_string()
+                                            : projectFileOf(openProject(path, frontEnd));
+}
+
+std::string projectFileOf(const CTervixProject& project) {
+  std::string file;
+  project.getPath(file);
+  return file;
 }
 
 } // namespace tervix::tool

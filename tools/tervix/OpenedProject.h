@@ -15,4 +15,9 @@ namespace tervix::tool {
 // include list, and a command that only reads must not write.
 CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd);
 
+// The full path of the project file that openProject would open, there or not. A profile or
+// analysis file is opened to know it.
+std::string projectFileFor(const std::string& path, std::optional<int> frontEnd);
+std::string projectFileOf(const CTervixProject& project);
+
 } // namespace tervix::tool

@@ -11,13 +11,16 @@
 #include "tools/tervix/ProjectJson.h"
 #include "tools/tervix/ProjectTree.h"
 #include "tools/tervix/ProjectView.h"
+#include "tools/tervix/changes/Interruption.h"
 #include "tools/tervix/commands/OpenOptions.h"
 
 namespace tervix::tool {
 namespace {
 
 void show(const OpenOptions& options) {
-  const ProjectView view = viewOf(openProject(options.file, options.frontEnd));
+  CTervixProject& project = openProject(options.file, options.frontEnd);
+  tellOfInterruption(projectFileOf(project));
+  const ProjectView view = viewOf(project);
   if (options.asJson)
     std::cout << jsonOf(view) << "\n";
   else

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tervix::tool {
@@ -49,13 +50,28 @@ struct ChangePlan {
   // Told of each new file before its content is completed, which may take long.
   std::function<void(const Made&)> progress;
 
-  // The project file from which the project opens afterwards.
+  // The project file from which the project opens afterwards, and the one from which it opens
+  // before; empty when that is the same.
   std::string projectFile;
+  std::string formerProjectFile;
+
+  // Of a deletion: the (schematic, profile) pairs whose files go; a schematic's own have no
+  // profile.
+  std::vector<std::pair<std::string, std::string>> deleted;
+
+  // Nothing of the project is touched: all that is new lies elsewhere, where nothing was before.
+  bool isElsewhere = false;
+
+  // What was asked for, word by word.
+  std::vector<std::string> request;
 
   bool isEmpty() const {
     return madeFolders.empty() && made.empty() && rewritten.empty() && removed.empty() &&
            removedFolders.empty();
   }
 };
+
+// Whether two plans do the same to the same files.
+bool isSame(const ChangePlan& a, const ChangePlan& b);
 
 } // namespace tervix::tool

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "TervixFiles.h"
+#include "foundation/platform/Durability.h"
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 
@@ -24,14 +25,6 @@ void writeStream(const std::string& path, const std::string& content) {
   }
 }
 
-std::string unusedNameBeside(const fs::path& path) {
-  fs::path name = path.parent_path() / (".tervix-" + path.filename().string());
-  for (int attempt = 1; fs::exists(fs::symlink_status(name)); ++attempt)
-    name = path.parent_path() /
-           (".tervix-" + std::to_string(attempt) + "-" + path.filename().string());
-  return name.generic_string();
-}
-
 } // namespace
 
 std::string contentOf(const std::string& path) {
@@ -45,6 +38,27 @@ std::string contentOf(const std::string& path) {
   if (!isFile || !stream || !content)
     throw Failure(inQuotes(path) + " could not be read");
   return content.str();
+}
+
+bool isThere(const std::string& path) {
+  std::error_code error;
+  return fs::symlink_status(path, error).type() != fs::file_type::not_found;
+}
+
+bool isBeginningOf(const std::string& path, const std::string& whole) {
+  std::ifstream part(path, std::ios::binary);
+  std::ifstream all(whole, std::ios::binary);
+  constexpr std::size_t kBlock = 65536;
+  std::string partBlock(kBlock, '\0');
+  std::string wholeBlock(kBlock, '\0');
+  while (part && all) {
+    part.read(partBlock.data(), kBlock);
+    all.read(wholeBlock.data(), kBlock);
+    const auto count = static_cast<std::size_t>(part.gcount());
+    if (part.gcount() > all.gcount() || partBlock.compare(0, count, wholeBlock, 0, count) != 0)
+      return false;
+  }
+  return part.eof() && !part.bad() && !all.bad();
 }
 
 bool haveSameContent(const std::string& a, const std::string& b) {
@@ -63,27 +77,47 @@ bool haveSameContent(const std::string& a, const std::string& b) {
 }
 
 void writeNewFile(const std::string& path, const std::string& content) {
-  if (fs::exists(fs::symlink_status(path)))
+  if (isThere(path))
     throw Failure(inQuotes(path) + " is there already");
   writeStream(path, content);
 }
 
-void writeFile(const std::string& path, const std::string& content) {
+std::string nameBeside(const std::string& path) {
   const fs::path place = fs::canonical(path);
+  fs::path name = place.parent_path() / (".tervix-" + place.filename().string());
+  for (int attempt = 1; isThere(name.string()); ++attempt)
+    name = place.parent_path() /
+           (".tervix-" + std::to_string(attempt) + "-" + place.filename().string());
+  return name.generic_string();
+}
+
+void stageFile(const std::string& path, const std::string& staged, const std::string& content) {
   // That the new content comes as another file must not get round a protection of the old one.
-  if (!std::ofstream(place, std::ios::binary | std::ios::app))
-    throw Failure("\"" + path + "\" may not be written");
-  const std::string written = unusedNameBeside(place);
-  writeStream(written, content);
+  if (!std::ofstream(path, std::ios::binary | std::ios::app))
+    throw Failure(inQuotes(path) + " may not be written");
+  writeStream(staged, content);
   std::error_code error;
-  fs::permissions(written, fs::status(place).permissions(), error);
-  if (!error)
-    fs::rename(written, place, error);
+  fs::permissions(staged, fs::status(path).permissions(), error);
+  if (error || !platform::flushFile(staged)) {
+    fs::remove(staged, error);
+    throw Failure(inQuotes(path) + " could not be rewritten");
+  }
+}
+
+void putInPlace(const std::string& staged, const std::string& path) {
+  std::error_code error;
+  fs::rename(staged, fs::canonical(path), error);
   if (error) {
     std::error_code ignored;
-    fs::remove(written, ignored);
+    fs::remove(staged, ignored);
     throw Failure(inQuotes(path) + " could not be rewritten: " + error.message());
   }
+}
+
+void writeFile(const std::string& path, const std::string& content) {
+  const std::string staged = nameBeside(path);
+  stageFile(path, staged, content);
+  putInPlace(staged, path);
 }
 
 void copyFile(const std::string& source, const std::string& target) {

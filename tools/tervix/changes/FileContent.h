@@ -16,4 +16,15 @@ void writeNewFile(const std::string& path, const std::string& content);
 void writeFile(const std::string& path, const std::string& content);
 void copyFile(const std::string& source, const std::string& target);
 
+// The two halves of a replacement. What is to take the place of a file is written under a name of
+// its own, on the disk before this returns; taking the place needs no more room.
+std::string nameBeside(const std::string& path);
+void stageFile(const std::string& path, const std::string& staged, const std::string& content);
+void putInPlace(const std::string& staged, const std::string& path);
+
+// Whether the name is in use, also by a link that leads nowhere.
+bool isThere(const std::string& path);
+// Whether the one file is as the other, or the beginning of it: a copy that was interrupted.
+bool isBeginningOf(const std::string& path, const std::string& whole);
+
 } // namespace tervix::tool

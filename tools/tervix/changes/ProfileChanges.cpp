@@ -196,6 +196,7 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
   ExpectedTree expected = treeOf(view);
   expected.erase({schematic.name, profile.name});
   removeProfileFiles(plan, layout, schematic.name, profile.name);
+  plan.deleted.emplace_back(schematic.name, profile.name);
   keepFilesNamedBy(plan, view, expected);
   if (layout.hasDesignFile()) {
     OpenFormatFile file(layout.projectFile);

@@ -20,11 +20,6 @@ std::string folderOf(const std::string& path) {
   return fs::path(path).parent_path().generic_string();
 }
 
-bool isThere(const std::string& path) {
-  std::error_code error;
-  return fs::symlink_status(path, error).type() != fs::file_type::not_found;
-}
-
 void mapAll(PathMap& map, const std::vector<std::string>& from,
             const std::vector<std::string>& to) {
   for (std::size_t i = 0; i < from.size(); ++i)
@@ -140,6 +135,8 @@ ChangePlan Renaming::plan(const std::string& title) {
   ChangePlan plan;
   plan.title = title;
   plan.projectFile = after_.projectFile;
+  if (after_.projectFile != before_.projectFile)
+    plan.formerProjectFile = before_.projectFile;
   planTexts(plan);
   planMovedFiles(plan);
   planLibraryCalls(plan);

@@ -77,10 +77,12 @@ ChangePlan planSchematicDelete(CTervixProject& project, const std::string& name)
   ExpectedTree expected = treeOf(view);
   for (const ProfileView& profile : schematic.profiles) {
     removeProfileFiles(plan, layout, schematic.name, profile.name);
+    plan.deleted.emplace_back(schematic.name, profile.name);
     expected.erase({schematic.name, profile.name});
   }
   expected.erase({schematic.name, ""});
   removeSchematicFiles(plan, layout, schematic.name);
+  plan.deleted.emplace_back(schematic.name, "");
   keepFilesNamedBy(plan, view, expected);
 
   OpenFormatFile design(view.design.place);

@@ -2,10 +2,25 @@
 
 #include <memory>
 
+#include "tools/tervix/Failure.h"
 #include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/commands/ChangeOptions.h"
 
 namespace tervix::tool {
+
+namespace {
+
+// Opening a project leaves out what cannot be read, so a disk that fails for a moment would have a
+// part of it forgotten. Made twice, the plan must come out the same.
+template <class MakePlan> ChangePlan steadyPlan(MakePlan makePlan) {
+  const ChangePlan once = makePlan();
+  ChangePlan plan = makePlan();
+  if (!isSame(once, plan))
+    throw Failure("the project could not be read twice with the same result; nothing was changed");
+  return plan;
+}
+
+} // namespace
 
 void addChangeAction(CLI::App& command, const ChangeAction& action) {
   struct Options : ChangeOptions {
@@ -25,9 +40,16 @@ void addChangeAction(CLI::App& command, const ChangeAction& action) {
         ->check([](const std::string& name) { return name.empty() ? "it is empty" : ""; });
   if (action.removesFiles)
     addKeepOldOption(*sub, *options);
-  sub->callback([options, plan = action.plan] {
-    CTervixProject& project = openProject(options->file, options->frontEnd);
-    finish(plan(project, options->names), *options);
+  const std::string what = command.get_name() + " " + action.name;
+  sub->callback([options, what, makePlan = action.plan] {
+    const ChangedNames& given = options->names;
+    const std::vector<std::string> request = {what, given.schematic, given.name, given.newName};
+    if (settleBefore(request, *options))
+      return;
+    ChangePlan plan =
+        steadyPlan([&] { return makePlan(openProject(options->file, options->frontEnd), given); });
+    plan.request = request;
+    finish(plan, *options);
   });
 }
 

@@ -2,10 +2,23 @@
 
 #include <iostream>
 
+#include "tools/tervix/OpenedProject.h"
+#include "tools/tervix/changes/Interruption.h"
 #include "tools/tervix/changes/PlanPrinter.h"
 #include "tools/tervix/changes/PlanRunner.h"
 
 namespace tervix::tool {
+
+namespace {
+
+void print(const ChangePlan& plan, const ChangeOptions& options) {
+  if (options.asJson)
+    printPlanAsJson(std::cout, plan, !options.dryRun);
+  else
+    printPlan(std::cout, plan, !options.dryRun);
+}
+
+} // namespace
 
 void addChangeOptions(CLI::App& command, ChangeOptions& options) {
   addOpenOptions(command, options);
@@ -16,6 +29,19 @@ void addKeepOldOption(CLI::App& command, ChangeOptions& options) {
   command.add_flag("--keep-old", options.keepOld, "Leave the old files where they are");
 }
 
+bool settleBefore(const std::vector<std::string>& request, const ChangeOptions& options) {
+  const std::string projectFile = projectFileFor(options.file, options.frontEnd);
+  if (options.dryRun) {
+    tellOfInterruption(projectFile);
+    return false;
+  }
+  const auto finished = settleInterruption(projectFile);
+  const bool isAskedFor = finished && finished->request == request;
+  if (isAskedFor)
+    print(*finished, options);
+  return isAskedFor;
+}
+
 void finish(const ChangePlan& planned, const ChangeOptions& options) {
   ChangePlan plan = planned;
   if (options.keepOld) {
@@ -24,10 +50,7 @@ void finish(const ChangePlan& planned, const ChangeOptions& options) {
   }
   if (!options.dryRun)
     runPlan(plan);
-  if (options.asJson)
-    printPlanAsJson(std::cout, plan, !options.dryRun);
-  else
-    printPlan(std::cout, plan, !options.dryRun);
+  print(plan, options);
 }
 
 } // namespace tervix::tool

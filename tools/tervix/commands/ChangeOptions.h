@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include <CLI/App.hpp>
 
 #include "tools/tervix/changes/ChangePlan.h"
@@ -15,6 +18,10 @@ struct ChangeOptions : OpenOptions {
 
 void addChangeOptions(CLI::App& command, ChangeOptions& options);
 void addKeepOldOption(CLI::App& command, ChangeOptions& options);
+
+// What is done before a command plans its change: an interrupted one is settled, or told of in a
+// dry run. Gives true when it was the change that is asked for; it is then done, and printed.
+bool settleBefore(const std::vector<std::string>& request, const ChangeOptions& options);
 
 // Prints the plan, and unless this is a dry run carries it out first.
 void finish(const ChangePlan& plan, const ChangeOptions& options);
