@@ -13,7 +13,7 @@ bool isEveryFaultTried();
 // How many of the faults are tried on a long run, unless it is every fault.
 enum class Choice {
   kMost, // of the calls before the first change, which are the same for every run, some
-  kSome  // of each call that changes something one error, and of the others some calls
+  kSome  // of these about a hundred, spread over the run
 };
 
 // The faults to try on a run that made these calls without one. Left out unless every fault is

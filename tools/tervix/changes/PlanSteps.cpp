@@ -36,12 +36,18 @@ void removeEntry(const std::string& path) {
     throw Failure(inQuotes(path) + " (" + error.message() + ")");
 }
 
-void removeEmptyFolder(const std::string& path) {
-  std::error_code error;
-  if (!fs::is_directory(fs::symlink_status(path, error)))
+enum class Remaining { kFails, kStays };
+
+// A folder that holds something is not removed, whatever it is.
+void removeFolder(const std::string& path, Remaining remaining) {
+  const fs::file_type type = fs::symlink_status(path).type();
+  if (type == fs::file_type::not_found)
     return;
-  fs::remove(path, error);
-  if (error)
+  std::error_code error = std::make_error_code(std::errc::not_a_directory);
+  if (type == fs::file_type::directory)
+    fs::remove(path, error);
+  const bool stays = error == std::errc::directory_not_empty || error == std::errc::file_exists;
+  if (error && !(stays && remaining == Remaining::kStays))
     throw Failure(inQuotes(path) + " (" + error.message() + ")");
 }
 
@@ -135,7 +141,7 @@ Left removeScratch(const ChangeRecord& record) {
 Left takeFoldersBack(const ChangeRecord& record) {
   Left left;
   const std::vector<std::string> inside(record.newFolders.rbegin(), record.newFolders.rend());
-  forEach(inside, left, removeEmptyFolder);
+  forEach(inside, left, [](const std::string& folder) { removeFolder(folder, Remaining::kFails); });
   return left;
 }
 
@@ -156,10 +162,8 @@ Left removeOldFiles(const ChangeRecord& record) {
 // One that somebody else put a file into stays, and is no failure.
 Left removeOldFolders(const ChangeRecord& record) {
   Left left;
-  forEach(record.plan.removedFolders, left, [](const std::string& folder) {
-    if (fs::is_directory(fs::symlink_status(folder)) && fs::is_empty(folder))
-      removeEmptyFolder(folder);
-  });
+  forEach(record.plan.removedFolders, left,
+          [](const std::string& folder) { removeFolder(folder, Remaining::kStays); });
   return left;
 }
 
