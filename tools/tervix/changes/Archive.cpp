@@ -65,6 +65,7 @@ public:
     ChangePlan plan;
     plan.title = "archive " + layout_.project + " to " + archive_;
     plan.projectFile = paths_(layout_.projectFile);
+    plan.isElsewhere = true;
     planFiles(plan);
     plan.remarks = files_.remarks();
     plan.check = [made = plan.made, file = plan.projectFile, view = view_, paths = paths_] {

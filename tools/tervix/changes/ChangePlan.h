@@ -71,7 +71,9 @@ struct ChangePlan {
   }
 };
 
-// Whether two plans do the same to the same files.
-bool isSame(const ChangePlan& a, const ChangePlan& b);
+// A plan that comes out the same when it is made twice; otherwise throws a Failure. Opening a
+// project leaves out what cannot be read, and a disk that fails for a moment would so have a part
+// of the project forgotten.
+ChangePlan steadyPlan(const std::function<ChangePlan()>& makePlan);
 
 } // namespace tervix::tool

@@ -66,6 +66,7 @@ ChangeRecord recordOf(const ChangePlan& plan) {
   record.plan = plan;
   record.plan.libraryCalls.clear();
   record.plan.check = nullptr;
+  record.plan.progress = nullptr;
   record.process = platform::processNumber();
   for (const ChangePlan::Rewritten& file : plan.rewritten)
     record.former.push_back({contentOf(file.path), nameBeside(file.path)});

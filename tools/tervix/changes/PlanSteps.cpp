@@ -88,8 +88,11 @@ void makeFiles(const ChangeRecord& record, const ChangePlan& plan) {
       writeNewFile(made.path, made.content);
   for (const auto& call : plan.libraryCalls)
     call();
-  for (const ChangePlan::Made& made : plan.made)
+  for (const ChangePlan::Made& made : plan.made) {
+    if (plan.progress)
+      plan.progress(made);
     complete(made);
+  }
   if (const Left left = removeScratch(record); !left.empty())
     throw Failure(left.front() + " could not be removed");
 }

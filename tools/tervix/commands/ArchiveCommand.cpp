@@ -8,6 +8,7 @@
 #include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/Archive.h"
+#include "tools/tervix/changes/Interruption.h"
 #include "tools/tervix/changes/PlanPrinter.h"
 #include "tools/tervix/changes/PlanRunner.h"
 #include "tools/tervix/commands/ChangeOptions.h"
@@ -53,8 +54,9 @@ void printSummary(const ChangePlan& plan) {
 }
 
 void archive(const ArchiveOptions& options) {
-  CTervixProject& project = openProject(options.file, options.frontEnd);
-  ChangePlan plan = planArchive(project, options.folder);
+  tellOfInterruption(projectFileFor(options.file, options.frontEnd));
+  ChangePlan plan = steadyPlan(
+      [&] { return planArchive(openProject(options.file, options.frontEnd), options.folder); });
   if (!options.dryRun)
     run(plan, !options.asJson);
   if (options.asJson)

@@ -2,25 +2,10 @@
 
 #include <memory>
 
-#include "tools/tervix/Failure.h"
 #include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/commands/ChangeOptions.h"
 
 namespace tervix::tool {
-
-namespace {
-
-// Opening a project leaves out what cannot be read, so a disk that fails for a moment would have a
-// part of it forgotten. Made twice, the plan must come out the same.
-template <class MakePlan> ChangePlan steadyPlan(MakePlan makePlan) {
-  const ChangePlan once = makePlan();
-  ChangePlan plan = makePlan();
-  if (!isSame(once, plan))
-    throw Failure("the project could not be read twice with the same result; nothing was changed");
-  return plan;
-}
-
-} // namespace
 
 void addChangeAction(CLI::App& command, const ChangeAction& action) {
   struct Options : ChangeOptions {

@@ -121,12 +121,22 @@ struct EditOptions : ChangeOptions, OwnerOptions {
     return {isDesign, schematic.value_or(""), isDesign ? "" : first};
   }
   const std::string& path() const { return isDesign ? first : *second; }
+  std::vector<std::string> request(const char* what) const {
+    return {what, kind, schematic.value_or(""), isDesign ? "" : first, path()};
+  }
 };
 
 void addVariant(const EditOptions& options) {
   const VariantOwner owner = options.owner();
-  const VariantAddition addition = planVariantAdd(openProject(options.file, options.frontEnd),
-                                                  owner, kindNamed(options.kind), options.path());
+  if (settleBefore(options.request("lib add"), options))
+    return;
+  VariantAddition addition;
+  addition.plan = steadyPlan([&] {
+    addition = planVariantAdd(openProject(options.file, options.frontEnd), owner,
+                              kindNamed(options.kind), options.path());
+    return addition.plan;
+  });
+  addition.plan.request = options.request("lib add");
   finish(addition.plan, options);
   if (!addition.warning.empty())
     std::cerr << "tervix: warning: " << addition.warning << "\n";
@@ -134,9 +144,14 @@ void addVariant(const EditOptions& options) {
 
 void removeVariant(const EditOptions& options) {
   const VariantOwner owner = options.owner();
-  finish(planVariantRemove(openProject(options.file, options.frontEnd), owner,
-                           kindNamed(options.kind), options.path()),
-         options);
+  if (settleBefore(options.request("lib remove"), options))
+    return;
+  ChangePlan plan = steadyPlan([&] {
+    return planVariantRemove(openProject(options.file, options.frontEnd), owner,
+                             kindNamed(options.kind), options.path());
+  });
+  plan.request = options.request("lib remove");
+  finish(plan, options);
 }
 
 void addEdit(CLI::App& command, const char* name, const char* help,
