@@ -334,7 +334,8 @@ TEST_P(ArchivedReferences, OfANetlistThatCannotLeadToACopyAreTold) {
 
 // A simulator repeats in its output what it was given, and data may look like anything.
 TEST_P(ArchivedReferences, AreNotLookedForInResults) {
-  for (const auto& file : shownAsJson({project()})["schematics"][0]["profiles"][0]["files"])
+  const auto json = shownAsJson({project()});
+  for (const auto& file : json["schematics"][0]["profiles"][0]["files"])
     if (file["exists"] == true && (file["type"] == "dat" || file["type"] == "out"))
       writeFile(file["path"], ".include absent.inc\n");
   EXPECT_FALSE(contains(archiveIt().output, "absent.inc"));
