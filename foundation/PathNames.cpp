@@ -19,6 +19,10 @@ bool startsWith(std::string_view text, std::string_view prefix) {
   return text.substr(0, prefix.size()) == prefix;
 }
 
+bool startsWithPath(std::string_view path, std::string_view prefix) {
+  return tervix::equalsAsPath(path.substr(0, prefix.size()), prefix);
+}
+
 // The folder above base, which may end in a separator; none when base does not tell.
 std::optional<std::string_view> folderAbove(std::string_view base) {
   if (!base.empty() && base.back() == '/')
@@ -53,13 +57,13 @@ unsigned long getVariantFileType(std::string& suffix, VARIANTFILE_TYPE type) {
 
 unsigned long isRelativePathName(std::string& path, bool& isRelative) {
   isRelative = false;
-  std::string normal = tervix::toForwardSlashes(path);
-  if (startsWith(normal, "//"))
+  if (startsWithPath(path, "//"))
     return 0;
-  if (startsWith(normal, kHere) || startsWith(normal, kAbove)) {
+  if (startsWithPath(path, kHere) || startsWithPath(path, kAbove)) {
     isRelative = true;
     return 0;
   }
+  std::string normal = tervix::toForwardSlashes(path);
   const bool hasDrive = normal.size() > 1 && normal[1] == ':';
   if (hasDrive || (normal.size() > 2 && normal[2] == '/'))
     return 0;
@@ -91,10 +95,8 @@ unsigned long getAbsolutePathName(std::string& relative, std::string& base, std:
   if (startsWith(path, kHere)) {
     if (!tervix::contains(folder, "/"))
       return 1;
-    absolute = folder;
-    if (folder.back() != '/')
-      absolute += '/';
-    absolute += std::string_view(path).substr(kHere.size());
+    absolute = tervix::joined(
+        {folder, folder.back() == '/' ? "" : "/", std::string_view(path).substr(kHere.size())});
     return 0;
   }
   const auto above = folderAbove(folder);

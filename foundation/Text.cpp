@@ -123,6 +123,17 @@ std::uint64_t hashAsPath(std::string_view path) {
   return hashFolded(path, foldPath);
 }
 
+std::string joined(std::initializer_list<std::string_view> pieces) {
+  std::size_t size = 0;
+  for (const std::string_view piece : pieces)
+    size += piece.size();
+  std::string text;
+  text.reserve(size);
+  for (const std::string_view piece : pieces)
+    text += piece;
+  return text;
+}
+
 std::optional<std::string_view> stripPrefix(std::string_view text, std::string_view prefix) {
   if (!startsWithIgnoringCase(text, prefix))
     return std::nullopt;

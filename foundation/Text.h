@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ bool equalsAsPath(std::string_view a, std::string_view b);
 // Hashes that are equal for texts that equalsIgnoringCase, or equalsAsPath, takes for equal.
 std::uint64_t hashIgnoringCase(std::string_view text);
 std::uint64_t hashAsPath(std::string_view path);
+
+// The pieces one behind another, in memory taken once.
+std::string joined(std::initializer_list<std::string_view> pieces);
 
 // What is left of text without a prefix or suffix that it has in whatever case.
 std::optional<std::string_view> stripPrefix(std::string_view text, std::string_view prefix);

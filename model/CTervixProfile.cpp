@@ -51,7 +51,7 @@ CTervixProfile::CTervixProfile(const char* path, const char* name, const char* d
     setName(ownName);
     if (auto folder = tervix::folderOf(simPath)) {
       if (projectType == PROJECT_TYPE_SIMULATION) {
-        folder->append("/").append(ownName);
+        folder = tervix::joined({*folder, "/", ownName});
         variantFilePath_ = tervix::includeListIn(*folder, ownName);
       }
       setFolderPath(*folder);
@@ -183,9 +183,8 @@ unsigned long CTervixProfile::setMarkerKey() {
   const CTervixProject* project = schematic != nullptr ? tervix::projectAbove(*schematic) : nullptr;
   if (project == nullptr)
     return 1;
-  markerKey_ = tervix::longNameOf(tervix::designNameOf(*project), tervix::nameOf(*schematic),
-                                  tervix::nameOf(*this)) +
-               tervix::kMarkerEnding;
+  markerKey_ = tervix::joined({tervix::designNameOf(*project), "-", tervix::nameOf(*schematic), "-",
+                               tervix::nameOf(*this), tervix::kMarkerEnding});
   return 0;
 }
 

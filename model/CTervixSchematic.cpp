@@ -4,6 +4,7 @@
 
 #include "CTervixProfile.h"
 #include "foundation/LastError.h"
+#include "foundation/Text.h"
 #include "model/NodeFields.h"
 #include "model/ProfileNames.h"
 #include "model/ProjectLink.h"
@@ -93,21 +94,19 @@ unsigned long CTervixSchematic::composeSimPath(std::string& path, const std::str
     return status;
   if (const unsigned long status = getProjectType(type); status != 0)
     return status;
-  const std::string folder = tervix::folderPathOf(*this);
+  const std::string& folder = tervix::folderPathOf(*this);
   if (frontEnd == FRONTEND_ID_PROJECT_FILE) {
-    path = folder + (type == PROJECT_TYPE_SIMULATION ? "/profiles/" : "/") + name;
+    const char* place = type == PROJECT_TYPE_SIMULATION ? "/profiles/" : "/";
+    path = tervix::joined({folder, place, name, tervix::kSimEnding});
   } else if (frontEnd == FRONTEND_ID_DESIGN_FILE && type == PROJECT_TYPE_SIMULATION) {
-    path = folder + "/" + name;
+    path = tervix::joined({folder, "/", name, tervix::kSimEnding});
   } else if (frontEnd == FRONTEND_ID_DESIGN_FILE) {
     const CTervixProject* project = tervix::projectAbove(*this);
     if (project == nullptr)
       return 1;
-    path = tervix::folderPathOf(*project) + "/" +
-           tervix::longNameOf(tervix::designNameOf(*project), tervix::nameOf(*this), name);
-  } else {
-    return 0;
+    path = tervix::joined({tervix::folderPathOf(*project), "/", tervix::designNameOf(*project), "-",
+                           tervix::nameOf(*this), "-", name, tervix::kSimEnding});
   }
-  path += tervix::kSimEnding;
   return 0;
 }
 

@@ -17,7 +17,7 @@ constexpr const char* kFilesFolderEnding = "-TervixFiles";
 // DESIGN-SCHEMATIC-PROFILE, the name of a profile among the files of its design.
 inline std::string longNameOf(const std::string& design, const std::string& schematic,
                               const std::string& profile) {
-  return design + "-" + schematic + "-" + profile;
+  return joined({design, "-", schematic, "-", profile});
 }
 
 // The netlist-side files of a profile that has no folder of its own are named after its ".sim"
@@ -25,15 +25,15 @@ inline std::string longNameOf(const std::string& design, const std::string& sche
 inline std::string fileBesideSim(const std::string& stem, std::string_view suffix) {
   const bool isNetlistSide = equalsIgnoringCase(suffix, "1op") ||
                              equalsIgnoringCase(suffix, "cir") || equalsIgnoringCase(suffix, "mif");
-  return stem + (isNetlistSide ? ".sim." : ".") + std::string(suffix);
+  return joined({stem, isNetlistSide ? ".sim." : ".", suffix});
 }
 
 inline std::string fileInFolder(const std::string& stem, std::string_view suffix) {
-  return stem + "." + std::string(suffix);
+  return joined({stem, ".", suffix});
 }
 
 inline std::string includeListIn(const std::string& folder, const std::string& stem) {
-  return folder + "/" + stem + "_profile.inc";
+  return joined({folder, "/", stem, "_profile.inc"});
 }
 
 // The folder of a project's files, for a project named or based on stem.

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -86,7 +87,8 @@ CTervixProfile* profileAtPathOf(std::string& path, const std::string& simPath,
   const std::size_t separator = simPath.find_last_of("/\\");
   const std::string_view folder = std::string_view(simPath).substr(0, separator + 1);
   const auto findBeside = [&](std::initializer_list<std::string_view> name) {
-    path = tervix::toForwardSlashes(folder);
+    path = folder;
+    std::replace(path.begin(), path.end(), '\\', '/');
     for (const std::string_view piece : name)
       path += piece;
     path += tervix::kSimEnding;

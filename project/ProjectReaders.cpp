@@ -57,7 +57,7 @@ bool visitSimFiles(const SimFileVisit& visit, const std::string& folder) {
     return false;
   for (const platform::FolderEntry& entry : *entries)
     if (canBeFile(entry.kind) && isSimFileName(entry.name))
-      visitIfReadable(visit, folder + "/" + entry.name);
+      visitIfReadable(visit, joined({folder, "/", entry.name}));
   return true;
 }
 
