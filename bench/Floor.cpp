@@ -1,7 +1,7 @@
 // What no implementation can leave out when it opens a project: the calls into the readers of
 // project and design files, and openat, read and close of each ".sim" file and include list.
 // bench_floor [--rewrite] LAYOUT PROJECT_FILE prints the nanoseconds it took. With --rewrite each
-// include list is also written again.
+// include list is also written again; with --allocations the allocations are printed instead.
 
 #include <array>
 #include <iostream>
@@ -106,12 +106,17 @@ void readProject(const std::string& projectFile, const tervix::bench::Layout& la
 int main(int argc, char** argv) {
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   return tervix::bench::runMain([&] {
-    const bool rewrites = !arguments.empty() && arguments[0] == "--rewrite";
-    const std::size_t first = rewrites ? 1 : 0;
-    require(arguments.size() == first + 2, "[--rewrite] LAYOUT PROJECT_FILE");
+    const std::string option = arguments.size() > 2 ? arguments[0] : "";
+    const bool rewrites = option == "--rewrite";
+    const std::size_t first = option.empty() ? 0 : 1;
+    require(arguments.size() == first + 2, "[--rewrite | --allocations] LAYOUT PROJECT_FILE");
     const auto layout = tervix::bench::layoutOf(arguments[first]);
-    std::cout << tervix::bench::nanosecondsOf([&] {
-      readProject(arguments[first + 1], layout, rewrites);
-    }) << "\n";
+    const std::size_t before = tervix::bench::allocationsSoFar();
+    const long long time =
+        tervix::bench::nanosecondsOf([&] { readProject(arguments[first + 1], layout, rewrites); });
+    if (option == "--allocations")
+      std::cout << tervix::bench::allocationsSoFar() - before << "\n";
+    else
+      std::cout << time << "\n";
   });
 }

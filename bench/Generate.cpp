@@ -1,5 +1,6 @@
-// Makes a project: bench_generate LAYOUT SCHEMATICS PROFILES FOLDER [NAME LENGTH]
-// or a tree of files to copy: bench_generate files FOLDERS FILES FOLDER
+// Makes a project: bench_generate LAYOUT SCHEMATICS PROFILES FOLDER [NAME LENGTH [BYTES]]
+// where each profile has four files of a run, of so many bytes; or a tree of files to copy:
+// bench_generate files FOLDERS FILES FOLDER
 
 #include <filesystem>
 #include <fstream>
@@ -36,8 +37,9 @@ int main(int argc, char** argv) {
     if (arguments[0] == "files")
       return writeFiles(first, second, arguments[3]);
     const int nameLength = arguments.size() > 4 ? std::stoi(arguments[4]) : 0;
+    const int bytes = arguments.size() > 5 ? std::stoi(arguments[5]) : 0;
     tervix::bench::GeneratedProject(arguments[3], tervix::bench::layoutOf(arguments[0]),
-                                    {first, second, nameLength})
+                                    {first, second, nameLength, bytes})
         .write();
   });
 }

@@ -142,7 +142,7 @@ int main(int argc, char** argv) {
     for (const int profiles : {50, 50000}) {
       const tervix::bench::Layout layout;
       projects.push_back(std::make_unique<Opened>(
-          open({folder + "/" + std::to_string(profiles), layout, {1, profiles, 0}})));
+          open({folder + "/" + std::to_string(profiles), layout, {1, profiles, 0, 0}})));
       for (const Row& row : kRows)
         benchmark::RegisterBenchmark(
             (std::string(row.name) + "/" + std::to_string(profiles)).c_str(), measure,

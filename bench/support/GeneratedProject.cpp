@@ -95,6 +95,9 @@ void GeneratedProject::writeProfile(int schematicIndex, int profileIndex) const 
   fs::create_directories(own);
   writeFile(own / (stem + "_profile.inc"),
             ".INC\t\".\\load.inc\" \n.LIB\t\"..\\..\\models.lib\" \n");
+  if (size_.runBytes > 0)
+    for (const char* suffix : {".dat", ".out", ".cir", ".mrk"})
+      writeFile(own / (stem + suffix), std::string(static_cast<std::size_t>(size_.runBytes), 'x'));
 }
 
 std::string GeneratedProject::projectText() const {

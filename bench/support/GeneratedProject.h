@@ -19,6 +19,7 @@ struct ProjectSize {
   int schematics = 1;
   int profiles = 1;   // of each schematic
   int nameLength = 0; // names are padded to it
+  int runBytes = 0;   // the size of each file of a run; 0 for none
 };
 
 // Where everything of a generated project lies. Front end 1 has the one schematic "prj".
