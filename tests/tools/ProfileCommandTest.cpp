@@ -101,6 +101,13 @@ TEST_P(ChangedProfile, IsAsBeforeWhenACopyIsDeleted) {
   EXPECT_EQ(files(), before);
 }
 
+TEST_P(ChangedProfile, TellsOfACopiedNetlistThatWritesToTheOriginalsResults) {
+  const ToolRun run = profile("copy", {copy_.project(), name(), "duplicate"});
+  expectDone(run);
+  EXPECT_TRUE(contains(run.output, "it still names \"")) << run.output;
+  EXPECT_TRUE(contains(run.output, "have it written anew")) << run.output;
+}
+
 TEST_P(ChangedProfile, IsAsBeforeWhenANewProfileIsDeleted) {
   const Files before = files();
   expectDone(profile("add", {copy_.project(), "fresh"}));

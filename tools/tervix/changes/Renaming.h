@@ -53,6 +53,7 @@ private:
   void planTexts(ChangePlan& plan);
   void planMovedFiles(ChangePlan& plan) const;
   void planLibraryCalls(ChangePlan& plan);
+  void remarkNetlists(ChangePlan& plan) const;
 
   CTervixProject& project_;
   ProjectView view_;

@@ -1,8 +1,10 @@
 #include "tools/tervix/commands/ChangeOptions.h"
 
+#include <filesystem>
 #include <iostream>
 
 #include "tools/tervix/OpenedProject.h"
+#include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/Interruption.h"
 #include "tools/tervix/changes/PlanPrinter.h"
 #include "tools/tervix/changes/PlanRunner.h"
@@ -18,6 +20,16 @@ void print(const ChangePlan& plan, const ChangeOptions& options) {
     printPlan(std::cout, plan, !options.dryRun);
 }
 
+// Otherwise of two changes at a time one would write over what the other has written. Without locks
+// in the file system that remains.
+void lockProject(platform::FolderLock& lock, const std::string& projectFile) {
+  const std::string folder = std::filesystem::path(projectFile).parent_path().generic_string();
+  if (lock.tryLock(folder) != platform::FolderLock::Result::kTaken)
+    return;
+  std::cerr << "tervix: waiting for another change in " << inQuotes(folder) << "\n";
+  lock.lock(folder);
+}
+
 } // namespace
 
 void addChangeOptions(CLI::App& command, ChangeOptions& options) {
@@ -29,12 +41,13 @@ void addKeepOldOption(CLI::App& command, ChangeOptions& options) {
   command.add_flag("--keep-old", options.keepOld, "Leave the old files where they are");
 }
 
-bool settleBefore(const std::vector<std::string>& request, const ChangeOptions& options) {
+bool settleBefore(const std::vector<std::string>& request, ChangeOptions& options) {
   const std::string projectFile = projectFileFor(options.file, options.frontEnd);
   if (options.dryRun) {
     tellOfInterruption(projectFile);
     return false;
   }
+  lockProject(options.lock, projectFile);
   const auto finished = settleInterruption(projectFile);
   const bool isAskedFor = finished && finished->request == request;
   if (isAskedFor)

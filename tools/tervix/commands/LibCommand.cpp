@@ -126,7 +126,7 @@ struct EditOptions : ChangeOptions, OwnerOptions {
   }
 };
 
-void addVariant(const EditOptions& options) {
+void addVariant(EditOptions& options) {
   const VariantOwner owner = options.owner();
   if (settleBefore(options.request("lib add"), options))
     return;
@@ -142,7 +142,7 @@ void addVariant(const EditOptions& options) {
     std::cerr << "tervix: warning: " << addition.warning << "\n";
 }
 
-void removeVariant(const EditOptions& options) {
+void removeVariant(EditOptions& options) {
   const VariantOwner owner = options.owner();
   if (settleBefore(options.request("lib remove"), options))
     return;
@@ -155,7 +155,7 @@ void removeVariant(const EditOptions& options) {
 }
 
 void addEdit(CLI::App& command, const char* name, const char* help,
-             void (*edit)(const EditOptions&)) {
+             void (*edit)(EditOptions&)) {
   auto options = std::make_shared<EditOptions>();
   CLI::App* sub = command.add_subcommand(name, help);
   addChangeOptions(*sub, *options);
