@@ -154,8 +154,7 @@ void removeVariant(EditOptions& options) {
   finish(plan, options);
 }
 
-void addEdit(CLI::App& command, const char* name, const char* help,
-             void (*edit)(EditOptions&)) {
+void addEdit(CLI::App& command, const char* name, const char* help, void (*edit)(EditOptions&)) {
   auto options = std::make_shared<EditOptions>();
   CLI::App* sub = command.add_subcommand(name, help);
   addChangeOptions(*sub, *options);
