@@ -123,8 +123,15 @@ void writeFile(const std::string& path, const std::string& content) {
 void copyFile(const std::string& source, const std::string& target) {
   std::string from = source;
   std::string to = target;
-  if (cpFile(from, to) != 0 || !haveSameContent(source, target))
-    throw Failure(inQuotes(source) + " could not be copied to " + inQuotes(target));
+  const bool isNew = !isThere(target);
+  if (cpFile(from, to) == 0 && haveSameContent(source, target))
+    return;
+  // What came of it need not be the beginning of the source: that may have changed meanwhile. Later
+  // nobody could tell whose file it is.
+  std::error_code ignored;
+  if (isNew)
+    fs::remove(target, ignored);
+  throw Failure(inQuotes(source) + " could not be copied to " + inQuotes(target));
 }
 
 } // namespace tervix::tool

@@ -14,6 +14,7 @@ void writeNewFile(const std::string& path, const std::string& content);
 // Replaces a file in one step, keeping its permissions and following a link; the old content is
 // there until the new one is whole.
 void writeFile(const std::string& path, const std::string& content);
+// The copy is compared with its source; a new one that is not the same does not stay.
 void copyFile(const std::string& source, const std::string& target);
 
 // The two halves of a replacement. What is to take the place of a file is written under a name of
