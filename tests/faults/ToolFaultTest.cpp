@@ -1,4 +1,5 @@
 #include <array>
+#include <cctype>
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -221,7 +222,7 @@ std::string caseName(const ::testing::TestParamInfo<Case>& tried) {
   text << tried.param;
   std::string name = text.str();
   for (char& c : name)
-    if (c == ' ' || c == '-')
+    if (std::isalnum(static_cast<unsigned char>(c)) == 0)
       c = '_';
   return name;
 }
