@@ -1,9 +1,9 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "CTervixProject.h"
+#include "tests/tools/EntriesOnDisk.h"
 #include "tests/tools/Sample.h"
 #include "tests/tools/ToolRun.h"
 
@@ -12,49 +12,6 @@ using namespace tervix::testing;
 namespace {
 
 namespace fs = std::filesystem;
-
-// All of an entry that writing to it, or replacing it, would change.
-struct Entry {
-  ino_t number;
-  mode_t mode;
-  std::string written;
-  std::string changed;
-  std::string content;
-
-  friend bool operator==(const Entry& a, const Entry& b) {
-    return a.number == b.number && a.mode == b.mode && a.written == b.written &&
-           a.changed == b.changed && a.content == b.content;
-  }
-};
-
-std::string textOf(const timespec& time) {
-  return std::to_string(time.tv_sec) + "." + std::to_string(time.tv_nsec);
-}
-
-Entry entryAt(const fs::path& path) {
-  struct stat info {};
-  EXPECT_EQ(lstat(path.c_str(), &info), 0) << path;
-  return {info.st_ino, info.st_mode, textOf(info.st_mtim), textOf(info.st_ctim),
-          fs::is_regular_file(path) ? contentOf(path.string()) : ""};
-}
-
-using Entries = std::map<std::string, Entry>;
-
-Entries entriesOf(const std::string& folder) {
-  Entries entries{{".", entryAt(folder)}};
-  for (const auto& entry : fs::recursive_directory_iterator(folder))
-    entries.emplace(fs::relative(entry.path(), folder).string(), entryAt(entry.path()));
-  return entries;
-}
-
-void expectUntouched(const Entries& before, const Entries& after, const std::string& when) {
-  for (const auto& [name, entry] : before) {
-    const auto found = after.find(name);
-    ASSERT_NE(found, after.end()) << name << " is gone after " << when;
-    EXPECT_EQ(found->second, entry) << name << " was written by " << when;
-  }
-  EXPECT_EQ(after.size(), before.size()) << "something was made by " << when;
-}
 
 std::vector<std::string> includeListsOf(const std::string& folder) {
   std::vector<std::string> lists;
@@ -77,7 +34,7 @@ protected:
       for (const Arguments& options : {Arguments{}, {"--json"}, {"--front-end", "1"}}) {
         Arguments arguments = {"show", file};
         arguments.insert(arguments.end(), options.begin(), options.end());
-        const Entries before = entriesOf(copy_.folder());
+        const EntriesOnDisk before = entriesOf(copy_.folder());
         runTool(arguments);
         expectUntouched(before, entriesOf(copy_.folder()), file);
       }
@@ -115,7 +72,7 @@ TEST_P(ReadSample, StaysAsItIsWhenNothingCanBePrinted) {
   writeLists(kUntidyList);
   RunOptions options;
   options.output = Output::kFullDevice;
-  const Entries before = entriesOf(copy_.folder());
+  const EntriesOnDisk before = entriesOf(copy_.folder());
   EXPECT_EQ(runTool({"show", copy_.project()}, options).status, 1);
   expectUntouched(before, entriesOf(copy_.folder()), "printing");
 }
@@ -133,7 +90,7 @@ TEST(DestroyedProfile, WritesItsIncludeList) {
   const SampleCopy copy(allSamples().at(2));
   for (const std::string& list : includeListsOf(copy.folder()))
     writeFile(list, kUntidyList);
-  const Entries before = entriesOf(copy.folder());
+  const EntriesOnDisk before = entriesOf(copy.folder());
   CTervixProject project(copy.project().c_str(), FRONTEND_ID_PROJECT_FILE, false, nullptr);
   ASSERT_EQ(project.initialize(), 0U);
   std::string schematic = "amp";

@@ -12,6 +12,7 @@
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/ShowCommand.h"
 #include "tools/tervix/commands/ArchiveCommand.h"
+#include "tools/tervix/commands/CheckCommand.h"
 #include "tools/tervix/commands/DesignCommand.h"
 #include "tools/tervix/commands/FilesCommand.h"
 #include "tools/tervix/commands/LibCommand.h"
@@ -77,8 +78,12 @@ int run(int argc, char** argv) {
   addDesignCommand(app);
   addProjectCommand(app);
   addArchiveCommand(app);
+  addCheckCommand(app);
   try {
     app.parse(argc, argv);
+  } catch (const CLI::RuntimeError& done) {
+    finishOutput();
+    return done.get_exit_code(); // what a command found
   } catch (const CLI::ParseError& error) {
     return answer(app, error);
   }

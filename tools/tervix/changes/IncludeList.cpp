@@ -113,6 +113,19 @@ void IncludeList::remove(VARIANTFILE_TYPE kind, std::size_t index) {
   }
 }
 
+void forEachLine(std::string_view includeList,
+                 const std::function<void(const IncludeListLine&)>& tell) {
+  for (std::size_t number = 1; !includeList.empty(); ++number) {
+    const std::string_view line = takeLine(includeList);
+    const EntryForm* form = formOf(line);
+    const bool isBlank = line.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    if (form != nullptr)
+      tell({number, form->kind, valueIn(line), isBlank});
+    else
+      tell({number, std::nullopt, {}, isBlank});
+  }
+}
+
 const char* reasonAgainstEntry(VARIANTFILE_TYPE kind, const std::string& path) {
   const EntryForm* form = formOf(kind);
   if (!holds(path, form->requiredInPath))

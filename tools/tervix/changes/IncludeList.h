@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -38,6 +39,17 @@ private:
 
   std::string text_;
 };
+
+// A line of an include list, from 1.
+struct IncludeListLine {
+  std::size_t line;
+  std::optional<VARIANTFILE_TYPE> kind; // of an entry; none on any other line
+  std::string_view value;               // of an entry; empty without one
+  bool isBlank;
+};
+
+void forEachLine(std::string_view includeList,
+                 const std::function<void(const IncludeListLine&)>& tell);
 
 // Why the library would not load an entry for such a path; null when it would.
 const char* reasonAgainstEntry(VARIANTFILE_TYPE kind, const std::string& path);

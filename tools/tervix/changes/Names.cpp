@@ -12,10 +12,24 @@ namespace {
 constexpr std::array<const char*, 22> kDeviceNames = {
     "con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
     "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
+constexpr const char* kForbidden = "<>:\"|?*";
+constexpr const char* kReasonForbidden = "it holds one of < > : \" | ? *";
+constexpr const char* kReasonControl = "it holds a control character";
+constexpr const char* kReasonDevice = "some systems keep it for a device";
 constexpr std::size_t kLongestName = 200; // leaves room for the suffixes of the files
 
 char lowered(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool isDeviceName(const std::string& name) {
+  return std::any_of(kDeviceNames.begin(), kDeviceNames.end(),
+                     [&](const char* device) { return isSameName(name, device); });
+}
+
+bool holdsControl(const std::string& name) {
+  return std::any_of(name.begin(), name.end(),
+                     [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; });
 }
 
 const char* reasonAgainst(const std::string& name) {
@@ -26,11 +40,10 @@ const char* reasonAgainst(const std::string& name) {
   // A dot ends the stem of every file name that the library composes from the name.
   if (name.find('.') != std::string::npos)
     return "it holds a dot";
-  if (name.find_first_of("<>:\"|?*") != std::string::npos)
-    return "it holds one of < > : \" | ? *";
-  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; };
-  if (std::any_of(name.begin(), name.end(), isControl))
-    return "it holds a control character";
+  if (name.find_first_of(kForbidden) != std::string::npos)
+    return kReasonForbidden;
+  if (holdsControl(name))
+    return kReasonControl;
   // Project and design files hold text, and JSON too.
   if (!isUtf8(name))
     return "it is no valid UTF-8";
@@ -38,9 +51,8 @@ const char* reasonAgainst(const std::string& name) {
     return "it begins or ends with a blank";
   if (name.size() > kLongestName)
     return "it is longer than 200 characters";
-  const auto isName = [&](const char* device) { return isSameName(name, device); };
-  if (std::any_of(kDeviceNames.begin(), kDeviceNames.end(), isName))
-    return "some systems keep it for a device";
+  if (isDeviceName(name))
+    return kReasonDevice;
   return nullptr;
 }
 
@@ -54,6 +66,26 @@ bool isSameName(std::string_view a, std::string_view b) {
 void requireUsableName(const std::string& name, const char* what) {
   if (const char* reason = reasonAgainst(name))
     throw Failure("a " + std::string(what) + " cannot be named " + inQuotes(name) + ": " + reason);
+}
+
+const char* reasonAgainstOnWindows(const std::string& fileName) {
+  for (const char c : fileName) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f)
+      return kReasonControl;
+    if (c == '\\') // which separates there
+      return "it holds a separator";
+    // Nearly all characters of a name are letters, and need no closer look.
+    if (c < 'A' && std::string_view(kForbidden).find(c) != std::string_view::npos)
+      return kReasonForbidden;
+    if (c == '|')
+      return kReasonForbidden;
+  }
+  if (!fileName.empty() && (fileName.back() == ' ' || fileName.back() == '.'))
+    return "it ends with a dot or a blank";
+  // A device keeps its name whatever ending follows.
+  const std::size_t stem = std::min(fileName.find('.'), fileName.size());
+  const bool mayBeDevice = stem == 3 || stem == 4;
+  return mayBeDevice && isDeviceName(fileName.substr(0, stem)) ? kReasonDevice : nullptr;
 }
 
 } // namespace tervix::tool

@@ -10,6 +10,9 @@ namespace tervix::tool {
 // hold. what is the thing to be named, such as "profile".
 void requireUsableName(const std::string& name, const char* what);
 
+// Why a file or folder of that name cannot be on Windows; null when it can.
+const char* reasonAgainstOnWindows(const std::string& fileName);
+
 // Whether two names are the same to a file system that ignores case.
 bool isSameName(std::string_view a, std::string_view b);
 

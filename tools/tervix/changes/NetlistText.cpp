@@ -6,31 +6,38 @@
 #include <string_view>
 
 #include "tools/tervix/changes/Names.h"
+#include "tools/tervix/changes/QuotedLines.h"
 
 namespace tervix::tool {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
-constexpr std::array<const char*, 4> kIncludeWords = {".inc", ".include", ".lib", ".stmlib"};
+constexpr std::array<std::string_view, 4> kIncludeWords = {".inc", ".include", ".lib", ".stmlib"};
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
 }
 
+// What stands first: between quotes, or up to a blank or a comment.
+std::string_view nameAtFront(std::string_view text, bool isQuoted) {
+  if (isQuoted)
+    return text.substr(1, text.substr(1).find(text.front()));
+  return text.substr(0, text.find_first_of(" \t\r\n;"));
+}
+
 std::optional<IncludedFile> includedBy(std::string_view line, std::size_t number) {
-  line = withoutLeadingBlanks(line);
+  line = withoutLeadingBlanks(line.substr(0, line.find('\0')));
+  if (line.empty() || line.front() != '.')
+    return std::nullopt;
   const std::size_t end = std::min(line.find_first_of(" \t\r\n\"'"), line.size());
-  const std::string word(line.substr(0, end));
-  const auto isWord = [&](const char* include) { return isSameName(word, include); };
+  const std::string_view word = line.substr(0, end);
+  const auto isWord = [&](std::string_view include) { return isSameName(word, include); };
   if (std::none_of(kIncludeWords.begin(), kIncludeWords.end(), isWord))
     return std::nullopt;
   const std::string_view rest = withoutLeadingBlanks(line.substr(end));
-  if (rest.empty())
-    return std::nullopt;
-  const bool isQuoted = rest.front() == '"' || rest.front() == '\'';
-  const std::string_view named = isQuoted ? rest.substr(1, rest.substr(1).find(rest.front()))
-                                          : rest.substr(0, rest.find_first_of(kBlanks));
-  if (named.empty())
+  const bool isQuoted = !rest.empty() && (rest.front() == '"' || rest.front() == '\'');
+  const std::string_view named = nameAtFront(rest, isQuoted);
+  if (named.empty() || named.front() == '$')
     return std::nullopt;
   const bool isPlain = !isQuoted && named.find_first_of("./\\") == std::string_view::npos;
   return IncludedFile{number, std::string(named), isPlain && isSameName(word, ".lib")};
@@ -43,6 +50,14 @@ std::vector<IncludedFile> includedFiles(std::istream& netlist) {
   std::string line;
   for (std::size_t number = 1; std::getline(netlist, line); ++number)
     if (auto file = includedBy(line, number))
+      files.push_back(std::move(*file));
+  return files;
+}
+
+std::vector<IncludedFile> includedFiles(std::string_view netlist) {
+  std::vector<IncludedFile> files;
+  for (std::size_t number = 1; !netlist.empty(); ++number)
+    if (auto file = includedBy(takeLine(netlist), number))
       files.push_back(std::move(*file));
   return files;
 }

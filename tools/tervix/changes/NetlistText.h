@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <istream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tervix::tool {
@@ -14,6 +15,8 @@ struct IncludedFile {
   bool maybeSection; // ".lib NAME" may also begin a section of the library itself
 };
 
+// A name that begins with "$" is a variable's, known to the simulator alone, and left out.
 std::vector<IncludedFile> includedFiles(std::istream& netlist);
+std::vector<IncludedFile> includedFiles(std::string_view netlist);
 
 } // namespace tervix::tool

@@ -24,8 +24,8 @@ struct ProfilePlaces {
 // The names and folders from which the place of every file of a project follows. Change a name,
 // and it tells where the files will be; no file need be there.
 struct ProjectLayout {
-  FRONTEND_ID frontEnd;
-  PROJECT_TYPE type;
+  FRONTEND_ID frontEnd = FRONTEND_ID_UNSET;
+  PROJECT_TYPE type = PROJECT_TYPE_UNSET;
   std::string project; // the names of project and design
   std::string design;
   std::string projectFile;

@@ -26,6 +26,14 @@ std::optional<QuotedPlace> quotedIn(std::string_view line) {
   return QuotedPlace{quote + 1, end - quote - 1};
 }
 
+std::string_view valueIn(std::string_view line) {
+  const auto place = quotedIn(line);
+  if (!place)
+    return {};
+  const std::string_view value = line.substr(place->begin, place->length);
+  return value.substr(0, value.find('\0'));
+}
+
 std::string rewrittenLines(
     std::string_view text,
     const std::function<std::optional<std::string>(std::string_view, const std::string&)>&

@@ -22,6 +22,8 @@ struct QuotedPlace {
   std::size_t length;
 };
 std::optional<QuotedPlace> quotedIn(std::string_view line);
+// What it has there, up to a zero byte, at which names end for the library; empty without a quote.
+std::string_view valueIn(std::string_view line);
 
 // The text with a new value between the quotes of each line for which newValue, given line and
 // value, gives one. Every other byte stays.

@@ -59,6 +59,20 @@ std::string simValueOf(std::string_view text, SimKey key) {
   return {};
 }
 
+void forEachKey(std::string_view text, const SimKeyTold& tell) {
+  for (std::size_t number = 1; !text.empty(); ++number) {
+    const std::string_view line = takeLine(text);
+    if (const KeyWord* key = keyOf(line); key != nullptr)
+      tell(key->key, number, valueIn(line));
+  }
+}
+
+std::string_view wordOf(SimKey key) {
+  const auto* const found = std::find_if(kKeyWords.begin(), kKeyWords.end(),
+                                         [&](const KeyWord& word) { return word.key == key; });
+  return found->word;
+}
+
 std::string newSim(const std::function<std::string(SimKey)>& value) {
   std::string text;
   for (const KeyWord& keyWord : kKeyWords)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -33,6 +34,12 @@ rewrittenOtherKeys(std::string_view text,
 
 // The value of the first line with that key; empty without one.
 std::string simValueOf(std::string_view text, SimKey key);
+
+// Tells of each line that begins with a key: the line's number, from 1, and its value, empty
+// without one.
+using SimKeyTold = std::function<void(SimKey, std::size_t line, std::string_view value)>;
+void forEachKey(std::string_view text, const SimKeyTold& tell);
+std::string_view wordOf(SimKey key);
 
 // The text of a new ".sim" file with all keys.
 std::string newSim(const std::function<std::string(SimKey)>& value);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include <sys/stat.h>
+
+namespace tervix::testing {
+
+// All of an entry on disk that writing to it, or replacing it, would change.
+struct EntryOnDisk {
+  ino_t number;
+  mode_t mode;
+  std::string written;
+  std::string changed;
+  std::string content;
+
+  friend bool operator==(const EntryOnDisk& a, const EntryOnDisk& b) {
+    return a.number == b.number && a.mode == b.mode && a.written == b.written &&
+           a.changed == b.changed && a.content == b.content;
+  }
+};
+
+using EntriesOnDisk = std::map<std::string, EntryOnDisk>;
+
+// A folder, as ".", and every entry below it.
+EntriesOnDisk entriesOf(const std::string& folder);
+
+void expectUntouched(const EntriesOnDisk& before, const EntriesOnDisk& after,
+                     const std::string& when);
+
+} // namespace tervix::testing

@@ -1,0 +1,112 @@
+#include <array>
+
+#include "tools/tervix/check/Finding.h"
+
+namespace tervix::tool {
+
+const std::vector<FindingKind>& findingKinds() {
+  constexpr Severity kError = Severity::kError;
+  constexpr Severity kWarning = Severity::kWarning;
+  constexpr Severity kNote = Severity::kNote;
+  static const std::vector<FindingKind> kinds = {
+      {Code::kProjectUnopenable, "project-unopenable", kError,
+       "The project file, or what it needs, cannot be read.", "Put right what the message names."},
+      {Code::kMissingDesign, "missing-design", kError,
+       "The project names no design file (.dsn) that is there.",
+       "Name the design file in the project file, or put it back."},
+      {Code::kMissingProfile, "missing-profile", kError, "A registered profile is not there.",
+       "Put the .sim file back, or take it from the list."},
+      {Code::kMissingLibrary, "missing-library", kError, "A library that is named is not there.",
+       "Put the file back, or correct or remove its name."},
+      {Code::kMissingInclude, "missing-include", kError,
+       "An include file that is named is not there.",
+       "Put the file back, or correct or remove its name."},
+      {Code::kMissingStimulus, "missing-stimulus", kError,
+       "A stimulus file that is named is not there.",
+       "Put the file back, or correct or remove its name."},
+      {Code::kUnresolvedInclude, "unresolved-include", kError,
+       "A line of a netlist or library includes a file that is not there.",
+       "Put the file back, or correct the line."},
+      {Code::kCaseDiffers, "case-differs", kError,
+       "A file is named in another case than it has, and not found where case counts.",
+       "Write the name as the file has it."},
+      {Code::kUnreadableFile, "unreadable-file", kError,
+       "A file that is named is there and cannot be read.",
+       "Give the right to read it, or put a file in its place."},
+      {Code::kInvalidProfile, "invalid-profile", kError,
+       "A .sim file lacks what makes it a profile.", "Write the keys that the message names."},
+      {Code::kSameProfile, "same-profile", kError,
+       "Two .sim files are one profile by their names; the second is passed over.",
+       "Give one of them another ProfileName, or remove it."},
+      {Code::kUnknownSchematic, "unknown-schematic", kError,
+       "A profile belongs to a schematic that the design does not have.",
+       "Correct RootSchematics or the file's place, or add the schematic to the design."},
+      {Code::kMisplacedProfile, "misplaced-profile", kError,
+       "A .sim file is not where its names say it is; its files are looked for there.",
+       "Move the file there, or correct ProfileName and RootSchematics."},
+      {Code::kDroppedEntry, "dropped-entry", kError,
+       "An entry of an include list is not loaded, and lost when the list is saved.",
+       "Correct keyword and ending: .inc, .lib or .stl, in lower case."},
+      {Code::kUnknownRoot, "unknown-root", kError,
+       "The root schematic is none of the design's schematics.", "Correct Root in the design."},
+      {Code::kLostOriginal, "lost-original", kError,
+       "A backup is there, and what it is the backup of is not, or not whole.",
+       "Compare the two, and rename the backup to the original if that is lost."},
+      {Code::kInterruptedChange, "interrupted-change", kError,
+       "A change was interrupted and left a file of its work behind.",
+       "Compare it with the file that it was to become, then remove it."},
+      {Code::kKeyDisagrees, "key-disagrees", kWarning,
+       "A key of a .sim file names another file than its place says.", "Correct the key."},
+      {Code::kRepeatedKey, "repeated-key", kWarning, "A key stands in a .sim file more than once.",
+       "Keep one of the lines."},
+      {Code::kListedTwice, "listed-twice", kWarning,
+       "A profile, schematic or file is listed more than once.", "Keep one of the entries."},
+      {Code::kUnregisteredProfile, "unregistered-profile", kWarning,
+       "A .sim file lies in the project and is not registered.",
+       "Register it in the project file, or remove it."},
+      {Code::kIncludeCycle, "include-cycle", kWarning, "Files include each other in a circle.",
+       "Remove one of the lines."},
+      {Code::kOrphanFolder, "orphan-folder", kWarning,
+       "A folder of a profile, schematic or project that is no more.",
+       "Remove it, or put back what it belonged to."},
+      {Code::kStaleBackup, "stale-backup", kWarning,
+       "A backup was left behind; its original is whole.", "Remove it."},
+      {Code::kCaseTwins, "case-twins", kWarning,
+       "Two names differ only in case, and cannot both be where case is ignored.",
+       "Rename one of them."},
+      {Code::kWindowsName, "windows-name", kWarning, "A name cannot exist on Windows.",
+       "Rename it."},
+      {Code::kLongPath, "long-path", kWarning,
+       "A path of more than 259 characters, which many programs cannot open.",
+       "Shorten names, or move the project higher up."},
+      {Code::kDottedName, "dotted-name", kWarning,
+       "A name with a dot of its own, at which the library cuts it.",
+       "Write another character for the dot."},
+      {Code::kAbsolutePath, "absolute-path", kWarning,
+       "A full path leads to a file of the project, and breaks when the project moves.",
+       "Write the relative path."},
+      {Code::kUnknownActive, "unknown-active", kWarning,
+       "The active profile is none of the root schematic's.", "Activate a profile that is there."},
+      {Code::kMisnamedProject, "misnamed-project", kWarning,
+       "The project file is not named after the folder of its design.",
+       "Rename it to that folder's name."},
+      {Code::kMissingOutput, "missing-output", kNote,
+       "The simulator's output file is not there; a run makes it.", "Run the simulation."},
+      {Code::kDroppedLine, "dropped-line", kNote,
+       "A line of an include list is no entry, and lost when the list is saved.",
+       "Keep it elsewhere."},
+      {Code::kFormerName, "former-name", kNote, "Files bear the name of a profile that is no more.",
+       "Remove them, or rename them."},
+      {Code::kOutsideReference, "outside-reference", kNote,
+       "A file outside the project's folder is named, and has to move with the project.",
+       "Copy the file into the project."},
+  };
+  return kinds;
+}
+
+const char* nameOf(Severity severity) {
+  constexpr std::array<const char*, 3> kNames = {"error", "warning", "note"};
+  return kNames.at(static_cast<std::size_t>(severity));
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "tools/tervix/check/CheckProject.h"
+#include "tools/tervix/check/Repairs.h"
+
+namespace tervix::tool {
+
+// The findings as JSON text; its shape is described in docs/check.md and stays stable. repairs is
+// null when none were asked for.
+std::string jsonOf(const CheckedProject& checked, const RepairPlan* repairs, bool areDone);
+
+} // namespace tervix::tool

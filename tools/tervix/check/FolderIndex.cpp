@@ -1,0 +1,194 @@
+#include "tools/tervix/check/FolderIndex.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <tuple>
+
+#include "foundation/platform/Platform.h"
+#include "tools/tervix/check/InParallel.h"
+#include "tools/tervix/check/Paths.h"
+
+namespace tervix::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLargestText = std::size_t{64} << 20U;
+
+EntryType typeOfStatus(fs::file_type type) {
+  switch (type) {
+  case fs::file_type::none:
+  case fs::file_type::not_found:
+    return EntryType::kMissing;
+  case fs::file_type::regular:
+    return EntryType::kFile;
+  case fs::file_type::directory:
+    return EntryType::kFolder;
+  default:
+    return EntryType::kOther;
+  }
+}
+
+EntryType askedType(const std::string& path) {
+  std::error_code error;
+  return typeOfStatus(fs::status(path, error).type());
+}
+
+FolderIndex::Entry entryOf(const std::string& folder, platform::FolderEntry& listed) {
+  FolderIndex::Entry entry{std::move(listed.name), {}, EntryType::kOther, false};
+  entry.key = lowered(entry.name);
+  if (listed.kind == platform::EntryKind::kFile)
+    entry.type = EntryType::kFile;
+  else if (listed.kind == platform::EntryKind::kFolder)
+    entry.type = EntryType::kFolder;
+  if (listed.kind != platform::EntryKind::kUnknown)
+    return entry;
+  const std::string path = folder + "/" + entry.name;
+  std::error_code error;
+  entry.isLink = fs::is_symlink(fs::symlink_status(path, error));
+  entry.type = askedType(path);
+  return entry;
+}
+
+} // namespace
+
+FolderIndex::Folder FolderIndex::listed(const std::string& path) {
+  Folder folder;
+  auto entries = platform::listFolder(path);
+  folder.isListed = entries.has_value();
+  for (platform::FolderEntry& entry : entries ? *entries : std::vector<platform::FolderEntry>())
+    if (entry.name != "." && entry.name != "..")
+      folder.entries.push_back(entryOf(path, entry));
+  std::sort(folder.entries.begin(), folder.entries.end(), [](const Entry& a, const Entry& b) {
+    return std::tie(a.key, a.name) < std::tie(b.key, b.name);
+  });
+  return folder;
+}
+
+const FolderIndex::Folder& FolderIndex::folderAt(std::string_view path) {
+  if (last_ != nullptr && lastPath_ == path)
+    return *last_;
+  lastPath_ = path;
+  const auto found = folders_.find(lastPath_);
+  last_ = found != folders_.end() ? &found->second
+                                  : &folders_.emplace(lastPath_, listed(lastPath_)).first->second;
+  return *last_;
+}
+
+const FolderIndex::Folder& FolderIndex::folder(const std::string& path) {
+  return folderAt(path);
+}
+
+void FolderIndex::listAhead(const std::vector<std::string>& paths) {
+  std::vector<Folder> folders(paths.size());
+  inParallel(paths.size(), [&](std::size_t i) { folders[i] = listed(paths[i]); });
+  for (std::size_t i = 0; i < paths.size(); ++i)
+    folders_.emplace(paths[i], std::move(folders[i]));
+}
+
+bool FolderIndex::isOwn(const std::string& path) const {
+  return liesBelow(path, root_);
+}
+
+const FolderIndex::Entry* FolderIndex::entryAt(const std::string& path) {
+  const std::size_t end = path.rfind('/');
+  const std::string_view name = std::string_view(path).substr(end + 1);
+  const std::vector<Entry>& entries = folderAt(std::string_view(path).substr(0, end)).entries;
+  const std::string key = lowered(name);
+  auto entry = std::lower_bound(entries.begin(), entries.end(), key,
+                                [](const Entry& a, const std::string& b) { return a.key < b; });
+  for (; entry != entries.end() && entry->key == key; ++entry)
+    if (entry->name == name)
+      return &*entry;
+  return nullptr;
+}
+
+EntryType FolderIndex::typeOf(const std::string& path) {
+  if (isOwn(path)) {
+    if (const Entry* entry = entryAt(path))
+      return entry->type;
+    // A file system that ignores case finds it under another name.
+    return twinOf(path) ? askedType(path) : EntryType::kMissing;
+  }
+  const auto found = elsewhere_.find(path);
+  return found != elsewhere_.end() ? found->second
+                                   : elsewhere_.emplace(path, askedType(path)).first->second;
+}
+
+bool FolderIndex::isLink(const std::string& path) {
+  const Entry* entry = isOwn(path) ? entryAt(path) : nullptr;
+  return entry == nullptr || entry->isLink;
+}
+
+std::optional<std::string> FolderIndex::twinOf(const std::string& path) {
+  if (!isOwn(path))
+    return std::nullopt;
+  const std::vector<Entry>& entries = folder(folderOf(path)).entries;
+  const std::string name = nameOf(path);
+  const std::string key = lowered(name);
+  auto entry = std::lower_bound(entries.begin(), entries.end(), key,
+                                [](const Entry& a, const std::string& b) { return a.key < b; });
+  for (; entry != entries.end() && entry->key == key; ++entry)
+    if (entry->name != name)
+      return entry->name;
+  return std::nullopt;
+}
+
+const std::string& FolderIndex::realFolder(const std::string& path) {
+  if (const auto found = realFolders_.find(path); found != realFolders_.end())
+    return found->second;
+  std::string real;
+  if (isOwn(path) && !isLink(path)) {
+    real = realFolder(folderOf(path)) + "/" + nameOf(path);
+  } else {
+    std::error_code error;
+    real = fs::canonical(path, error).generic_string();
+    if (error)
+      real = path;
+  }
+  return realFolders_.emplace(path, std::move(real)).first->second;
+}
+
+std::string FolderIndex::realPathOf(const std::string& path) {
+  if (isOwn(path) && !isLink(path))
+    return realFolder(folderOf(path)) + "/" + nameOf(path);
+  return realFolder(path);
+}
+
+bool FolderIndex::isDirectlyIn(const std::string& path, const std::string& folder) {
+  return liesBelow(path, folder) &&
+         realPathOf(path) == realFolder(folder) + path.substr(folder.size());
+}
+
+std::optional<std::string> readText(const std::string& path) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                             &std::fclose);
+  if (!file)
+    return std::nullopt;
+  // Read straight into our own block: most of these files are small and many.
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);
+  std::array<char, 16384> block; // NOLINT(cppcoreguidelines-pro-type-member-init)
+  std::string text;
+  while (const std::size_t size = std::fread(block.data(), 1, block.size(), file.get())) {
+    text.append(block.data(), size);
+    if (text.size() > kLargestText)
+      return std::nullopt;
+    if (size < block.size())
+      break;
+  }
+  return std::ferror(file.get()) == 0 ? std::optional(std::move(text)) : std::nullopt;
+}
+
+std::vector<std::optional<std::string>> readTexts(const std::vector<std::string>& paths) {
+  std::vector<std::optional<std::string>> texts(paths.size());
+  inParallel(paths.size(), [&](std::size_t i) {
+    if (!paths[i].empty())
+      texts[i] = readText(paths[i]);
+  });
+  return texts;
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,75 @@
+#include <array>
+
+#include "readers/formats/Texts.h"
+#include "tools/tervix/check/Gathering.h"
+#include "tools/tervix/check/Paths.h"
+
+namespace tervix::tool {
+namespace {
+
+// What the project file says about files; front end 1 reads the resources alone.
+struct Item {
+  const char* section;
+  const char* item;
+  Role role;
+  bool isForFrontEnd1;
+};
+
+constexpr std::array<Item, 6> kItems = {
+    {{"Design Resources", "Files", Role::kDesign, false},
+     {"Design Resources", "TERVIX_Output_File", Role::kOutput, false},
+     {"Simulation Profiles", "Files", Role::kProfile, false},
+     {"Tervix Resources", "Model Libraries", Role::kLibrary, true},
+     {"Tervix Resources", "Stimulus Files", Role::kStimulus, true},
+     {"Tervix Resources", "Include Files", Role::kInclude, true}}};
+
+using Texts = std::vector<formats::PlacedText>;
+
+void takeReference(ProjectFacts& facts, const formats::PlacedText& text) {
+  for (const Item& item : kItems) {
+    const bool isMeant = text.section == item.section && text.item == item.item &&
+                         (item.isForFrontEnd1 || facts.isFrontEnd2());
+    // Of the design's files only the first ".dsn" file counts.
+    const bool isDesign = item.role == Role::kDesign;
+    if (!isMeant || text.text.empty() ||
+        (isDesign && (!facts.designFile.empty() || !endsWith(text.text, ".dsn"))))
+      continue;
+    const Reference& reference =
+        facts.refer(item.role, {facts.layout.projectFile, text.line}, text.text);
+    if (isDesign)
+      facts.designFile = reference.target;
+  }
+}
+
+void takeDesign(ProjectFacts& facts, const Texts& design) {
+  for (const formats::PlacedText& text : design) {
+    const Place place{facts.designFile, text.line};
+    if (text.section != "Design")
+      continue;
+    if (text.item == "Schematics")
+      facts.schematics.push_back({text.text, place});
+    if (text.item == "Root") {
+      facts.rootSchematic = text.text;
+      facts.rootPlace = place;
+    }
+  }
+}
+
+} // namespace
+
+void gatherLists(ProjectFacts& facts) {
+  for (const formats::PlacedText& text :
+       formats::readPlacedTexts(facts.layout.projectFile).value_or(Texts())) {
+    takeReference(facts, text);
+    if (facts.isFrontEnd2() && text.section == "Simulation Profiles" && text.item == "Active") {
+      facts.activeProfile = text.text;
+      facts.activePlace = {facts.layout.projectFile, text.line};
+    }
+  }
+  if (!facts.isFrontEnd2())
+    facts.schematics.push_back({facts.layout.design, {}});
+  else if (!facts.designFile.empty() && facts.index.isFile(facts.designFile))
+    takeDesign(facts, formats::readPlacedTexts(facts.designFile).value_or(Texts()));
+}
+
+} // namespace tervix::tool

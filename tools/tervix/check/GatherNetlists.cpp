@@ -1,0 +1,129 @@
+#include <algorithm>
+#include <unordered_map>
+
+#include "tools/tervix/changes/NetlistText.h"
+#include "tools/tervix/check/Gathering.h"
+#include "tools/tervix/check/Paths.h"
+
+namespace tervix::tool {
+namespace {
+
+// Netlists and libraries, each once, with what they include.
+class IncludeGraph {
+public:
+  explicit IncludeGraph(ProjectFacts& facts) : facts_(facts) {}
+
+  // Reads file after file, those of one distance from the first ones together.
+  void follow(const std::vector<std::string>& netlists, Progress& progress) {
+    for (const std::string& path : netlists)
+      if (facts_.index.isFile(path))
+        numberOf(path);
+    for (std::size_t read = 0; read < files_.size();) {
+      progress.tell("reading netlists and libraries", files_.size());
+      const std::size_t first = read;
+      std::vector<std::string> paths;
+      for (; read < files_.size(); ++read)
+        paths.push_back(files_[read].path);
+      const auto texts = readTexts(paths);
+      for (std::size_t i = 0; i < texts.size(); ++i)
+        takeText(first + i, texts[i]);
+    }
+  }
+
+  // Each line that closes a circle, once. The way down is kept here and not on the stack, so that
+  // no chain of files is too long.
+  void tellCycles() {
+    for (std::size_t file = 0; file < files_.size(); ++file) {
+      enter(file);
+      while (!way_.empty()) {
+        File& last = files_[way_.back()];
+        if (last.next < last.inclusions.size()) {
+          takeInclusion(last.inclusions[last.next++]);
+        } else {
+          last.state = State::kDone;
+          way_.pop_back();
+        }
+      }
+    }
+  }
+
+private:
+  enum class State { kNew, kOpen, kDone };
+
+  struct Inclusion {
+    std::size_t file;
+    std::size_t line;
+  };
+  struct File {
+    std::string path;
+    std::vector<Inclusion> inclusions;
+    State state = State::kNew;
+    std::size_t next = 0;
+  };
+
+  std::size_t numberOf(const std::string& path) {
+    const auto [number, isNew] = numbers_.emplace(facts_.index.realPathOf(path), files_.size());
+    if (isNew)
+      files_.push_back({path, {}, State::kNew, 0});
+    return number->second;
+  }
+
+  void takeText(std::size_t file, const std::optional<std::string>& text) {
+    const std::string path = files_[file].path;
+    if (!text)
+      return facts_.unread.push_back({path, 0});
+    for (const IncludedFile& line : includedFiles(std::string_view(*text))) {
+      Reference& reference = facts_.refer(Role::kIncludeLine, {path, line.line}, line.text);
+      reference.maybeSection = line.maybeSection;
+      if (reference.type == EntryType::kFile) {
+        const std::size_t included = numberOf(reference.target);
+        files_[file].inclusions.push_back({included, line.line});
+      }
+    }
+  }
+
+  void enter(std::size_t file) {
+    if (files_[file].state != State::kNew)
+      return;
+    files_[file].state = State::kOpen;
+    way_.push_back(file);
+  }
+
+  void takeInclusion(const Inclusion& inclusion) {
+    if (files_[inclusion.file].state != State::kOpen)
+      return enter(inclusion.file);
+    IncludeCycle cycle{{files_[way_.back()].path, inclusion.line}, {}};
+    for (auto file = std::find(way_.begin(), way_.end(), inclusion.file); file != way_.end();
+         ++file)
+      cycle.files.push_back(files_[*file].path);
+    facts_.cycles.push_back(std::move(cycle));
+  }
+
+  ProjectFacts& facts_;
+  std::vector<File> files_;
+  std::unordered_map<std::string, std::size_t> numbers_; // by the one real path
+  std::vector<std::size_t> way_;
+};
+
+std::vector<std::string> netlistsOf(const ProjectFacts& facts) {
+  std::vector<std::string> netlists;
+  for (const PlacedName& schematic : facts.schematics)
+    netlists.push_back(facts.layout.placesOf(schematic.name).files[SCHEMATIC_FILE_NET]);
+  for (const LoadedProfile& profile : facts.loaded)
+    netlists.push_back(profile.netlist);
+  for (const Reference& reference : facts.references)
+    if (reference.role == Role::kLibrary || reference.role == Role::kStimulus ||
+        reference.role == Role::kInclude)
+      netlists.push_back(reference.target);
+  return netlists;
+}
+
+} // namespace
+
+void gatherNetlists(ProjectFacts& facts, Progress& progress) {
+  IncludeGraph graph(facts);
+  graph.follow(netlistsOf(facts), progress);
+  graph.tellCycles();
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,138 @@
+#include <algorithm>
+
+#include "readers/formats/Texts.h"
+#include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/Names.h"
+#include "tools/tervix/check/Checkers.h"
+#include "tools/tervix/check/Paths.h"
+
+// What a change left behind: backups, files of its work, folders of what is no more.
+
+namespace tervix::tool {
+namespace {
+
+constexpr const char* kBackupEnding = ".bak";
+constexpr const char* kFilesFolderEnding = "-TervixFiles";
+// How every file begins that the tool or the library makes for the time of a change; a journal of
+// such a change is to be named so, too.
+constexpr const char* kWorkPrefix = ".tervix-";
+
+bool holdsText(const std::string& path) {
+  const auto text = readText(path);
+  return text && !text->empty();
+}
+
+// Whether a file has all that its kind needs.
+bool isWhole(ProjectFacts& facts, const std::string& path) {
+  if (!facts.index.isFile(path) || !holdsText(path))
+    return false;
+  if (endsWith(path, ".sim")) {
+    const auto sim = std::find_if(facts.sims.begin(), facts.sims.end(),
+                                  [&](const SimFile& file) { return file.path == path; });
+    return sim != facts.sims.end() && sim->isRead && reasonAgainstProfile(facts, *sim).empty();
+  }
+  if (endsWith(path, ".tvp") || endsWith(path, ".dsn"))
+    return formats::readPlacedTexts(path).has_value();
+  return true;
+}
+
+void checkBackup(ProjectFacts& facts, Findings& findings, const std::string& path) {
+  const std::string original = path.substr(0, path.size() - std::string(kBackupEnding).size());
+  if (!isWhole(facts, original))
+    return findings.add(Code::kLostOriginal, {path},
+                        findings.named(original) + " is not there, or not whole");
+  Repair repair;
+  if (facts.index.isDirectlyIn(path, facts.layout.folder)) {
+    repair.action = Repair::Action::kRemoveFile;
+    repair.file = path;
+  }
+  findings.add(Code::kStaleBackup, {path}, findings.named(original) + " is whole",
+               std::move(repair));
+}
+
+void checkFiles(ProjectFacts& facts, Findings& findings, const std::string& folder) {
+  for (const FolderIndex::Entry& entry : facts.index.folder(folder).entries) {
+    if (entry.name.rfind(kWorkPrefix, 0) == 0)
+      findings.add(Code::kInterruptedChange, {folder + "/" + entry.name},
+                   "an interrupted change left this behind");
+    else if (entry.type == EntryType::kFile && endsWith(entry.name, kBackupEnding))
+      checkBackup(facts, findings, folder + "/" + entry.name);
+  }
+}
+
+bool hasEntry(FolderIndex& index, const std::string& folder, const std::string& name) {
+  return index.typeOf(folder + "/" + name) != EntryType::kMissing ||
+         index.twinOf(folder + "/" + name);
+}
+
+// Whether a folder holds files named after it, as that of a profile does, or nothing.
+bool looksLikeProfileFolder(FolderIndex& index, const std::string& folder) {
+  const std::string stem = lowered(nameOf(folder));
+  const auto& entries = index.folder(folder).entries;
+  return entries.empty() || std::any_of(entries.begin(), entries.end(), [&](const auto& entry) {
+           return entry.key.rfind(stem + ".", 0) == 0 || entry.key == stem + "_profile.inc";
+         });
+}
+
+template <class Tell>
+void forEachFolder(FolderIndex& index, const std::string& above, const Tell& tell) {
+  for (const FolderIndex::Entry& entry : index.folder(above).entries)
+    if (entry.type == EntryType::kFolder && !entry.isLink)
+      tell(above + "/" + entry.name, entry.name);
+}
+
+void checkProfileFolders(ProjectFacts& facts, Findings& findings, const std::string& above) {
+  std::vector<std::string> registered;
+  for (const SimFile& sim : facts.sims)
+    if (folderOf(sim.path) == above)
+      registered.push_back(lowered(nameOf(sim.path)));
+  std::sort(registered.begin(), registered.end());
+  forEachFolder(facts.index, above, [&](const std::string& path, const std::string& name) {
+    if (!hasEntry(facts.index, above, name + ".sim") &&
+        !std::binary_search(registered.begin(), registered.end(), lowered(name + ".sim")) &&
+        looksLikeProfileFolder(facts.index, path))
+      findings.add(Code::kOrphanFolder, {path},
+                   "a profile's folder without " + inQuotes(name + ".sim") + " beside it");
+  });
+}
+
+bool hasSims(FolderIndex& index, const std::string& folder) {
+  const auto& entries = index.folder(folder).entries;
+  return std::any_of(entries.begin(), entries.end(),
+                     [](const auto& entry) { return endsWith(entry.name, ".sim"); });
+}
+
+void checkFolders(ProjectFacts& facts, Findings& findings) {
+  for (const std::string& above : facts.schematicFolders) {
+    const std::string schematic = nameOf(above);
+    // Profiles in a folder of no schematic are told one by one.
+    if (facts.isFrontEnd2() && !facts.hasSchematic(schematic) && !hasSims(facts.index, above))
+      findings.add(Code::kOrphanFolder, {above},
+                   "there is no schematic " + inQuotes(schematic) + " in the design");
+    else
+      checkProfileFolders(facts, findings, above);
+  }
+  if (!facts.isFrontEnd2())
+    return;
+  const std::string& folder = facts.layout.folder;
+  forEachFolder(facts.index, folder, [&](const std::string& path, const std::string& name) {
+    if (!endsWith(name, kFilesFolderEnding))
+      return;
+    const std::string project =
+        name.substr(0, name.size() - std::string(kFilesFolderEnding).size()) + ".tvp";
+    if (!hasEntry(facts.index, folder, project))
+      findings.add(Code::kOrphanFolder, {path},
+                   "the files of a project without " + inQuotes(project) + " beside them");
+  });
+}
+
+} // namespace
+
+void checkLeftovers(ProjectFacts& facts, Findings& findings) {
+  for (const std::string& folder : facts.ownFolders)
+    checkFiles(facts, findings, folder);
+  if (facts.knowsDesign())
+    checkFolders(facts, findings);
+}
+
+} // namespace tervix::tool

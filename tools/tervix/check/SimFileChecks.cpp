@@ -1,0 +1,147 @@
+#include <filesystem>
+#include <set>
+#include <tuple>
+#include <unordered_set>
+
+#include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/NamedPath.h"
+#include "tools/tervix/changes/Names.h"
+#include "tools/tervix/check/Checkers.h"
+#include "tools/tervix/check/Paths.h"
+
+// ".sim" files: what they say, where they lie, and whether the project knows them.
+
+namespace tervix::tool {
+namespace {
+
+class SimChecks {
+public:
+  SimChecks(ProjectFacts& facts, Findings& findings) : facts_(facts), findings_(findings) {}
+
+  void check(const SimFile& sim) {
+    const bool isFirst = paths_.insert(sim.path).second;
+    if (!isFirst)
+      findings_.add(Code::kListedTwice, sim.registered,
+                    findings_.named(sim.path) + " is registered already");
+    else if (!sim.isThere)
+      return; // told with all files that are named
+    else if (!sim.isRead)
+      findings_.add(Code::kUnreadableFile, {sim.path}, "the file cannot be read");
+    else if (facts_.knowsDesign())
+      checkPlaced(sim);
+  }
+
+private:
+  // What keeps a file from being the profile that its names say; empty when nothing does.
+  struct Obstacle {
+    Code code;
+    std::string text;
+  };
+
+  Obstacle obstacleTo(const SimFile& sim) {
+    if (const std::string reason = reasonAgainstProfile(facts_, sim); !reason.empty())
+      return {Code::kInvalidProfile, reason};
+    const ProfileNames names = namesOf(facts_, sim);
+    if (!facts_.hasSchematic(names.schematic))
+      return {Code::kUnknownSchematic,
+              "there is no schematic " + inQuotes(names.schematic) + " in the design"};
+    if (!profiles_.insert(keyOfNames(names.schematic, names.name)).second)
+      return {Code::kSameProfile, "another file is " + described(names) + " already"};
+    const std::string composed = composedPlace(names);
+    if (!isSamePlace(composed, sim.path))
+      return {Code::kMisplacedProfile, "it is " + described(names) + ", which is looked for at " +
+                                           findings_.named(composed)};
+    return {Code::kInvalidProfile, ""};
+  }
+
+  static std::string described(const ProfileNames& names) {
+    return "profile " + inQuotes(names.name) + " of schematic " + inQuotes(names.schematic);
+  }
+
+  std::string composedPlace(const ProfileNames& names) const {
+    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
+    return loaded != nullptr ? loaded->sim
+                             : facts_.layout.placesOf(names.schematic, names.name).sim;
+  }
+
+  // Where case is ignored the names may differ in it.
+  static bool isSamePlace(const std::string& composed, const std::string& path) {
+    std::error_code error;
+    return composed == path ||
+           (isSameName(composed, path) && std::filesystem::equivalent(composed, path, error));
+  }
+
+  void checkPlaced(const SimFile& sim) {
+    if (facts_.isFrontEnd2() && !sim.isRegistered())
+      checkUnregistered(sim);
+    else if (const Obstacle obstacle = obstacleTo(sim); !obstacle.text.empty())
+      findings_.add(obstacle.code, {sim.path}, obstacle.text);
+    else
+      checkKeys(sim);
+  }
+
+  void checkUnregistered(const SimFile& sim) {
+    const Obstacle obstacle = obstacleTo(sim);
+    const std::string message = "the file is not registered in the project file";
+    if (!obstacle.text.empty())
+      return findings_.add(Code::kUnregisteredProfile, {sim.path}, message + "; " + obstacle.text);
+    const ProfileNames names = namesOf(facts_, sim);
+    Repair repair;
+    repair.action = Repair::Action::kRegisterProfile;
+    repair.file = facts_.layout.projectFile;
+    repair.newText = relativeText(sim.path, facts_.layout.folder, "./", true);
+    repair.schematic = names.schematic;
+    repair.profile = names.name;
+    findings_.add(Code::kUnregisteredProfile, {sim.path}, message, std::move(repair));
+  }
+
+  void checkKeys(const SimFile& sim) {
+    const ProfileNames names = namesOf(facts_, sim);
+    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
+    checkName(sim, SimKey::kProfileFile, nameOf(sim.path));
+    checkName(sim, SimKey::kProjectFile, nameOf(facts_.layout.projectFile));
+    if (loaded != nullptr)
+      checkName(sim, SimKey::kNetlistFile, nameOf(loaded->netlist));
+    for (std::size_t i = 0; i < sim.keys.size(); ++i)
+      if (sim.keys.at(i).count > 1)
+        findings_.add(Code::kRepeatedKey, {sim.path, sim.keys.at(i).line},
+                      std::string(wordOf(static_cast<SimKey>(i))) + " stands here once more");
+  }
+
+  // What has no value leaves it to the place.
+  void checkName(const SimFile& sim, SimKey key, const std::string& expected) {
+    const SimKeyFacts& found = sim.key(key);
+    if (!found.value.empty() && !isSameName(nameOf(found.value), expected))
+      findings_.add(Code::kKeyDisagrees, {sim.path, found.line},
+                    std::string(wordOf(key)) + " is " + inQuotes(found.value) +
+                        " where its place says " + inQuotes(expected));
+  }
+
+  ProjectFacts& facts_;
+  Findings& findings_;
+  std::unordered_set<std::string> paths_;
+  std::unordered_set<std::string> profiles_; // by their names
+};
+
+// Lists in which an entry once is enough; the profiles are told with their files.
+void checkLists(const ProjectFacts& facts, Findings& findings) {
+  std::set<std::tuple<Role, std::string, std::string>> seen;
+  for (const Reference& reference : facts.references) {
+    const bool isList = reference.role == Role::kLibrary || reference.role == Role::kStimulus ||
+                        reference.role == Role::kInclude;
+    if (isList && !seen.emplace(reference.role, reference.place.file, reference.target).second)
+      findings.add(Code::kListedTwice, reference.place,
+                   inQuotes(reference.text) + " is listed already");
+  }
+}
+
+} // namespace
+
+void checkSimFiles(ProjectFacts& facts, Findings& findings) {
+  SimChecks checks(facts, findings);
+  for (const SimFile& sim : facts.sims)
+    checks.check(sim);
+  checkLists(facts, findings);
+}
+
+} // namespace tervix::tool

@@ -1,0 +1,97 @@
+#include "tools/tervix/commands/CheckCommand.h"
+
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "foundation/platform/Console.h"
+#include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/PlanPrinter.h"
+#include "tools/tervix/changes/PlanRunner.h"
+#include "tools/tervix/check/CheckProject.h"
+#include "tools/tervix/check/FindingsJson.h"
+#include "tools/tervix/check/FindingsText.h"
+#include "tools/tervix/check/Repairs.h"
+#include "tools/tervix/commands/OpenOptions.h"
+
+namespace tervix::tool {
+namespace {
+
+enum CheckStatus { kNothingFound = 0, kWarningsFound = 1, kErrorsFound = 3 };
+
+struct CheckOptions : OpenOptions {
+  bool isStrict = false;
+  bool fix = false;
+  bool dryRun = false;
+};
+
+// What is told before it is done, and where the former contents are then.
+void printRepairs(const RepairPlan& repairs, bool dryRun) {
+  if (repairs.plan.isEmpty()) {
+    std::cout << "--fix has nothing to repair\n";
+    return;
+  }
+  printPlan(std::cout, repairs.plan, !dryRun);
+  if (!dryRun)
+    std::cout << "their former contents go to " << printable(repairs.savedTo) << "\n";
+  std::cout.flush();
+}
+
+void repair(const RepairPlan& repairs, bool dryRun) {
+  if (!dryRun && !repairs.plan.isEmpty())
+    runPlan(repairs.plan);
+}
+
+// By what is left when all repairs are done.
+CheckStatus statusOf(const std::vector<Finding>& findings, bool isFixed, bool isStrict) {
+  CheckStatus status = kNothingFound;
+  for (const Finding& finding : findings) {
+    if (isFixed && finding.isFixable())
+      continue;
+    if (finding.severity() == Severity::kError)
+      return kErrorsFound;
+    if (isStrict && finding.severity() == Severity::kWarning)
+      status = kWarningsFound;
+  }
+  return status;
+}
+
+CheckStatus check(const CheckOptions& options) {
+  Progress progress;
+  const CheckedProject checked = checkFile(options.file, options.frontEnd, progress);
+  std::optional<RepairPlan> repairs;
+  if (options.fix && checked.project != nullptr)
+    repairs = planRepairs(*checked.project, checked.findings);
+  const bool isFixed = repairs && !options.dryRun;
+  if (!options.asJson) {
+    printFindings(std::cout, checked.findings, Style(platform::standardOutputTakesColour()));
+    if (repairs)
+      printRepairs(*repairs, options.dryRun);
+  }
+  if (repairs)
+    repair(*repairs, options.dryRun);
+  if (options.asJson)
+    std::cout << jsonOf(checked, repairs ? &*repairs : nullptr, isFixed) << "\n";
+  return statusOf(checked.findings, isFixed, options.isStrict);
+}
+
+} // namespace
+
+void addCheckCommand(CLI::App& app) {
+  auto options = std::make_shared<CheckOptions>();
+  CLI::App* command = app.add_subcommand("check", "Find what breaks a project, or soon will");
+  addOpenOptions(*command, *options);
+  command->add_flag("--strict", options->isStrict, "Let warnings give the exit status 1");
+  CLI::Option* fix = command->add_flag("--fix", options->fix, "Repair what loses nothing");
+  command->add_flag("--dry-run", options->dryRun, "Print what --fix would do, and touch nothing")
+      ->needs(fix);
+  command->footer("Exit status: 0 nothing found, or no errors; 1 warnings, with --strict, or the\n"
+                  "check failed; 2 wrong usage; 3 errors found. With --fix what is left counts.");
+  command->callback([options] {
+    if (const CheckStatus status = check(*options); status != kNothingFound)
+      throw CLI::RuntimeError(status);
+  });
+}
+
+} // namespace tervix::tool
