@@ -106,7 +106,7 @@ private:
     case SIGTRAP | (PTRACE_EVENT_SECCOMP << 8):
       return onCall();
     case SIGTRAP | (PTRACE_EVENT_EXIT << 8):
-      return noteOpenFiles();
+      return run_.wasKilled ? void() : noteOpenFiles();
     case SIGTRAP | (PTRACE_EVENT_EXEC << 8):
       return;
     case SIGTRAP | 0x80: // the call is over that goes wrong although it was made
