@@ -146,10 +146,17 @@ TEST_F(Fix, LeavesFilesBehindLinksAlone) {
   EXPECT_TRUE(fs::is_symlink(project_.path("link.bak")));
 }
 
-TEST_F(Fix, LeavesTheProjectWholeWhenItCannotWrite) {
-  project_.write("amp-TervixSaved-1/amp.tvp", ""); // taken: the next one is used
+TEST_F(Fix, SavesToAFolderOfItsOwn) {
+  project_.write("amp-TervixSaved-1/amp.tvp", "");
   ASSERT_EQ(fix().status, 0);
   EXPECT_TRUE(isFile(project_.path("amp-TervixSaved-2/amp.tvp")));
+}
+
+TEST_F(Fix, RefusesWhileAnInterruptedChangeCannotBeSettled) {
+  project_.write(".amp.tvp.tervix-change", "no journal");
+  const auto before = snapshotOf(project_.folder());
+  EXPECT_EQ(fix().status, 1);
+  EXPECT_EQ(snapshotOf(project_.folder()), before);
 }
 
 TEST(FixOfNothing, MakesNoFolder) {

@@ -71,7 +71,7 @@ TEST(FreshProfile, NeedsNeitherNetlistNorResults) {
 TEST(NamesInSimFiles, MayDifferInCaseAndFolder) {
   const CheckedSample project(1);
   project.replace("amp-TOP-ac.sim", "\"amp.tvp\"", "\"C:\\work\\AMP.TVP\"");
-  project.replace("amp-TOP-ac.sim", "\"amp-TOP-ac.sim\"", "\"/work/AMP-top-ac.sim\"");
+  project.replace("amp-TOP-ac.sim", "\"amp-TOP-ac.sim\"", "\"/projects/AMP-top-ac.sim\"");
   EXPECT_EQ(findingsIn(project.checkedAsJson()), std::vector<std::string>());
 }
 

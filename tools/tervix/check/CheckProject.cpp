@@ -87,11 +87,15 @@ std::vector<Finding> checkProject(CTervixProject& project, Progress& progress) {
   return findings.sorted();
 }
 
+void requireCheckable(const std::string& file) {
+  if (std::error_code error; !fs::is_regular_file(fullPathOf(file), error))
+    throw Failure(inQuotes(file) + " is not a file that is there", kWrongUsage);
+}
+
 CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, Progress& progress) {
   CheckedProject checked;
   checked.path = fullPathOf(file);
-  if (std::error_code error; !fs::is_regular_file(checked.path, error))
-    throw Failure(inQuotes(file) + " is not a file that is there", kWrongUsage);
+  requireCheckable(file);
   try {
     checked.project = &openProject(file, frontEnd);
   } catch (const Failure& failure) {

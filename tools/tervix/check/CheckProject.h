@@ -19,6 +19,9 @@ struct CheckedProject {
   std::vector<Finding> findings;
 };
 
+// Throws a Failure of wrong usage for a file that is not there.
+void requireCheckable(const std::string& file);
+
 // Opens the project of a file, as openProject does, and checks it. Throws a Failure of wrong usage
 // for a file that is none of a project, or not there.
 CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, Progress& progress);

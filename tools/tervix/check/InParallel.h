@@ -22,8 +22,7 @@ template <class Work> void inParallel(std::size_t count, const Work& work) {
         work(i);
   };
   const std::size_t shares = (count + kShare - 1) / kShare;
-  const std::size_t threads =
-      std::min<std::size_t>({shares, std::thread::hardware_concurrency(), 4});
+  const auto threads = std::min<std::size_t>({shares, std::thread::hardware_concurrency(), 4});
   std::vector<std::future<void>> helpers;
   try {
     for (std::size_t i = 1; i < threads; ++i)

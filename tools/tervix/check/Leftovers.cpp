@@ -2,6 +2,7 @@
 
 #include "readers/formats/Texts.h"
 #include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/Journal.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Checkers.h"
 #include "tools/tervix/check/Paths.h"
@@ -13,8 +14,7 @@ namespace {
 
 constexpr const char* kBackupEnding = ".bak";
 constexpr const char* kFilesFolderEnding = "-TervixFiles";
-// How every file begins that the tool or the library makes for the time of a change; a journal of
-// such a change is to be named so, too.
+// How every file begins that the tool or the library makes for the time of a change.
 constexpr const char* kWorkPrefix = ".tervix-";
 
 bool holdsText(const std::string& path) {
@@ -129,6 +129,11 @@ void checkFolders(ProjectFacts& facts, Findings& findings) {
 } // namespace
 
 void checkLeftovers(ProjectFacts& facts, Findings& findings) {
+  if (const std::string journal = journalOf(facts.layout.projectFile);
+      facts.index.typeOf(journal) != EntryType::kMissing)
+    findings.add(Code::kInterruptedChange, {journal},
+                 "an interrupted change left its journal; the next command that changes the "
+                 "project takes it back or finishes it");
   for (const std::string& folder : facts.ownFolders)
     checkFiles(facts, findings, folder);
   if (facts.knowsDesign())

@@ -13,17 +13,16 @@
 #include "tools/tervix/check/FindingsJson.h"
 #include "tools/tervix/check/FindingsText.h"
 #include "tools/tervix/check/Repairs.h"
-#include "tools/tervix/commands/OpenOptions.h"
+#include "tools/tervix/commands/ChangeOptions.h"
 
 namespace tervix::tool {
 namespace {
 
 enum CheckStatus { kNothingFound = 0, kWarningsFound = 1, kErrorsFound = 3 };
 
-struct CheckOptions : OpenOptions {
+struct CheckOptions : ChangeOptions {
   bool isStrict = false;
   bool fix = false;
-  bool dryRun = false;
 };
 
 // What is told before it is done, and where the former contents are then.
@@ -57,7 +56,11 @@ CheckStatus statusOf(const std::vector<Finding>& findings, bool isFixed, bool is
   return status;
 }
 
-CheckStatus check(const CheckOptions& options) {
+CheckStatus check(CheckOptions& options) {
+  if (options.fix) {
+    requireCheckable(options.file);
+    settleBefore({"check", "--fix"}, options);
+  }
   Progress progress;
   const CheckedProject checked = checkFile(options.file, options.frontEnd, progress);
   std::optional<RepairPlan> repairs;
