@@ -3,6 +3,7 @@
 #include "Mistake.h"
 #include "ParseFile.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace tervix::formats {
@@ -50,6 +51,37 @@ Document::Document(std::string file) : file_(std::move(file)), sections_(parseFi
 Document::Document(std::string file, std::string_view text)
     : file_(std::move(file)), sections_(parseText(file_, text)) {}
 
+void Document::compact() {
+  for (auto&& [sectionName, section] : sections_) {
+    if (toml::table* const items = section.as_table(); items != nullptr) {
+      for (auto&& [itemName, item] : *items) {
+        if (toml::array* const elements = item.as_array(); elements != nullptr) {
+          compact(*elements);
+        }
+      }
+    }
+  }
+}
+
+void Document::compact(toml::array& elements) {
+  std::size_t size = 0;
+  for (const toml::node& element : elements) {
+    const auto* const text = element.as_string();
+    if (text == nullptr || text->get().find('\0') != std::string::npos) {
+      return;
+    }
+    size += text->get().size() + 1;
+  }
+  std::string texts;
+  texts.reserve(size);
+  for (const toml::node& element : elements) {
+    texts.append(element.as_string()->get()).push_back('\0');
+  }
+  elements.clear();
+  elements.shrink_to_fit();
+  compacted_.emplace(&elements, std::move(texts));
+}
+
 std::list<std::string> Document::list(std::string_view section, std::string_view item,
                                       std::string_view what) const {
   std::list<std::string> texts;
@@ -60,6 +92,13 @@ std::list<std::string> Document::list(std::string_view section, std::string_view
   const toml::array* const elements = node->as_array();
   if (elements == nullptr) {
     refuse(*node, "a list of " + std::string(what) + " for " + quoted(item));
+  }
+  if (const auto compacted = compacted_.find(elements); compacted != compacted_.end()) {
+    const std::string& all = compacted->second;
+    for (std::size_t start = 0; start < all.size(); start += texts.back().size() + 1) {
+      texts.emplace_back(all.c_str() + start);
+    }
+    return texts;
   }
   const std::string expected = "only " + std::string(what) + " in the list for " + quoted(item);
   for (const toml::node& element : *elements) {

@@ -4,6 +4,7 @@
 #include "Toml.h"
 
 #include <list>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -22,13 +23,19 @@ public:
                               std::string_view what) const;
   std::string text(std::string_view section, std::string_view item) const;
 
+  // For a document that is kept: its lists of texts take no more room than in the file.
+  void compact();
+
 private:
+  void compact(toml::array& elements);
   const toml::node* find(std::string_view section, std::string_view item) const;
   std::string textOf(const toml::node& node, const std::string& expected) const;
   [[noreturn]] void refuse(const toml::node& node, const std::string& expected) const;
 
   std::string file_;
   toml::table sections_;
+  // What the arrays held that are empty since; each text ends with a NUL, which none has in it.
+  std::map<const toml::array*, std::string> compacted_;
 };
 
 } // namespace tervix::formats

@@ -46,8 +46,9 @@ void requireSize(const std::string& file, std::uintmax_t size) {
 }
 
 // Measured again while it is read: the size told beforehand may be out of date.
-std::string readToEnd(const std::string& file, std::istream& stream) {
+std::string readToEnd(const std::string& file, std::istream& stream, std::uintmax_t expected) {
   std::string text;
+  text.reserve(static_cast<std::size_t>(expected));
   std::array<char, std::size_t{64} * 1024> block{};
   while (stream.good()) {
     stream.read(block.data(), static_cast<std::streamsize>(block.size()));
@@ -65,15 +66,16 @@ std::string readToEnd(const std::string& file, std::istream& stream) {
 std::string readFileBytes(const std::string& file) {
   requireRegularFile(file);
   std::error_code error;
-  const std::uintmax_t size = fs::file_size(file, error);
-  if (!error) {
-    requireSize(file, size);
+  std::uintmax_t size = fs::file_size(file, error);
+  if (error) {
+    size = 0;
   }
+  requireSize(file, size);
   std::ifstream stream(fs::path(file), std::ios::binary);
   if (!stream) {
     refuse(file, "the file cannot be opened for reading");
   }
-  return readToEnd(file, stream);
+  return readToEnd(file, stream, size);
 }
 
 void requireUnchanged(const std::string& file, std::string_view bytes) {

@@ -49,6 +49,17 @@ TEST_F(ProjectFileTest, ItemGivesItsText) {
   EXPECT_EQ(text, "amp-TervixFiles/TOP/tran/tran.out");
 }
 
+TEST_F(ProjectFileTest, ThatChangedIsReadAnew) {
+  EXPECT_EQ(readSection(project), 0);
+  std::string changed(amplifier);
+  changed.replace(changed.find("amp.dsn"), 3, "new");
+  EXPECT_EQ(readSection(folder.write("amp.tvp", changed)), 0);
+  EXPECT_NE(readSection(folder.write("amp.tvp", "no TOML")), 0);
+  EXPECT_EQ(readSection(folder.write("amp.tvp", amplifier)), 0);
+  EXPECT_EQ(files, (Texts{"before", "amp.dsn", "old\\amp.dsn", "new.dsn", "old\\amp.dsn", "amp.dsn",
+                          "old\\amp.dsn"}));
+}
+
 TEST_F(ProjectFileTest, FlagChangesNothing) {
   EXPECT_EQ(readProjectFiles(project, "Design Resources", files, second, false), 0);
   EXPECT_EQ(files, (Texts{"before", "amp.dsn", "old\\amp.dsn"}));
