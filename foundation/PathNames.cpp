@@ -1,6 +1,7 @@
 #include <array>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "TervixFiles.h"
 #include "foundation/PathNames.h"
@@ -31,6 +32,20 @@ std::optional<std::string_view> folderAbove(std::string_view base) {
   if (slash == std::string_view::npos)
     return std::nullopt;
   return base.substr(0, slash);
+}
+
+// The path that a relative one stands for as seen from a folder, all with forward slashes.
+std::optional<std::string> absoluteFrom(std::string_view folder, std::string_view relative) {
+  if (startsWith(relative, kHere)) {
+    if (!tervix::contains(folder, "/"))
+      return std::nullopt;
+    const char* separator = folder.back() == '/' ? "" : "/";
+    return tervix::joined({folder, separator, relative.substr(kHere.size())});
+  }
+  const auto above = folderAbove(folder);
+  if (!above)
+    return std::nullopt;
+  return tervix::joined({*above, "/", relative.substr(kAbove.size())});
 }
 
 // What a file name holds behind its last dash when it is the marker file of a whole design, such
@@ -90,19 +105,10 @@ unsigned long getAbsolutePathName(std::string& relative, std::string& base, std:
   absolute.clear();
   bool isRelative = false;
   isRelativePathName(path, isRelative);
-  if (!isRelative)
+  auto found = isRelative ? absoluteFrom(folder, path) : std::nullopt;
+  if (!found)
     return 1;
-  if (startsWith(path, kHere)) {
-    if (!tervix::contains(folder, "/"))
-      return 1;
-    absolute = tervix::joined(
-        {folder, folder.back() == '/' ? "" : "/", std::string_view(path).substr(kHere.size())});
-    return 0;
-  }
-  const auto above = folderAbove(folder);
-  if (!above)
-    return 1;
-  absolute.assign(*above).append("/").append(path, kAbove.size());
+  absolute = std::move(*found);
   return 0;
 }
 
@@ -169,10 +175,7 @@ std::optional<std::string> resolvedAgainst(std::string_view folder, std::string_
   isRelativePathName(named, isRelative);
   if (!isRelative)
     return named;
-  std::string base(folder);
-  if (getAbsolutePathName(named, base, named) != 0)
-    return std::nullopt;
-  return named;
+  return absoluteFrom(toForwardSlashes(folder), named);
 }
 
 } // namespace tervix

@@ -164,15 +164,16 @@ public:
   // - PROJECT_TYPE_SIMULATION: the folder beside it, named like it without ".sim"; a file that
   //   the new folder holds under the same name is overwritten. In the new folder the include list
   //   and the run's files take the new name, unless only case changed; a file that is there under
-  //   its new name already stays, and the copy under the old name goes;
+  //   its new name already stays, and the copy under the old name goes (both stay where the one
+  //   under the new name cannot be read);
   // - PROJECT_TYPE_OTHER: the run's files beside it, unless they are there; and in newPath the
   //   lines "NetlistFile" and "ProjectFile" are rewritten. A "newPath.bak" made for that is removed
   //   again; one that was there before is left alone.
   // The stored data and output paths are dropped, to be read afresh.
   // 10108 with both files: the ".sim" file could not be copied (nothing further is done), or its
   // backup or a run's file (the rest goes on). 10123 with both folders: the folder could not be
-  // copied whole. 1: no schematic or project above, no such project type, or newPath could not be
-  // rewritten; it is then as it was.
+  // copied whole, or a path is too short to have one. 1: no schematic or project above, no such
+  // project type, or newPath could not be rewritten; it is then as it was.
   unsigned long syncUpProfileFiles(std::string& oldPath, std::string& newPath);
 
 private:
@@ -194,15 +195,15 @@ private:
   std::vector<std::string> stimulusFiles_;
   std::vector<std::string> includeFiles_;
   unsigned int cursors_[3] = {0, 0, 0}; // NOLINT(modernize-avoid-c-arrays)
-  std::string displayName_;
   bool active_ = false;
-  std::string variantFilePath_;
   bool variantsUpdated_ = false;
+  // The include list is there but could not be read: a save would lose what it holds.
+  bool variantFileUnread_ = false;
+  std::string displayName_;
+  std::string variantFilePath_;
   std::string datFilePath_;
   std::string outFilePath_;
   std::string markerKey_;
-  // An include list that is there but could not be read: a save would lose what it holds.
-  std::string unreadVariantFile_;
 };
 
 #endif

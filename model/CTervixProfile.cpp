@@ -1,8 +1,11 @@
 #include "CTervixProfile.h"
 
+#include <utility>
+
 #include "foundation/PathNames.h"
 #include "foundation/Text.h"
 #include "foundation/platform/Platform.h"
+#include "model/NodeAccess.h"
 #include "model/NodeFields.h"
 #include "model/NodeListing.h"
 #include "model/ProfileNames.h"
@@ -45,17 +48,15 @@ CTervixProfile::CTervixProfile(const char* path, const char* name, const char* d
   if (displayName != nullptr)
     displayName_ = displayName;
   if (path != nullptr && name != nullptr) {
-    std::string simPath(path);
     std::string ownName(name);
-    setPath(simPath);
     setName(ownName);
-    if (auto folder = tervix::folderOf(simPath)) {
-      if (projectType == PROJECT_TYPE_SIMULATION) {
-        folder = tervix::joined({*folder, "/", ownName});
-        variantFilePath_ = tervix::includeListIn(*folder, ownName);
-      }
-      setFolderPath(*folder);
+    std::string simPath(path);
+    auto folder = tervix::folderOf(simPath);
+    if (folder && projectType == PROJECT_TYPE_SIMULATION) {
+      folder = tervix::joined({*folder, "/", ownName});
+      variantFilePath_ = tervix::includeListIn(*folder, ownName);
     }
+    tervix::NodeAccess::takePlace(*this, std::move(simPath), std::move(folder).value_or(""));
   }
   setMarkerKey();
   CTervixProfile::readProfileLevelVariants();
@@ -109,8 +110,8 @@ unsigned long CTervixProfile::isActive(bool& active) const {
 
 unsigned long CTervixProfile::setVariantFilePath(std::string& path) {
   // A file that could not be read stays protected where a rename is about to carry it.
-  if (!unreadVariantFile_.empty() && !path.empty())
-    unreadVariantFile_ = tervix::platform::exists(path) ? std::string() : path;
+  if (variantFileUnread_ && !path.empty())
+    variantFileUnread_ = !tervix::platform::exists(path);
   return setUnlessEmpty(variantFilePath_, path);
 }
 unsigned long CTervixProfile::getVariantFilePath(std::string& path) const {

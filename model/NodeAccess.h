@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "CTervixNode.h"
 #include "CTervixProfile.h"
 #include "CTervixProject.h"
@@ -20,6 +23,11 @@ struct NodeAccess {
   static const std::string& markerKey(const CTervixProfile& profile) { return profile.markerKey_; }
   static const std::string& designName(const CTervixProject& project) {
     return project.designName_;
+  }
+  // For a node that no list holds yet.
+  static void takePlace(CTervixNode& node, std::string path, std::string folderPath) {
+    node.path_ = std::move(path);
+    node.folderPath_ = std::move(folderPath);
   }
   static NodeCell*& cells(CTervixNode& node) { return node.cells_; }
 };

@@ -152,7 +152,7 @@ unsigned long CTervixProfile::deleteAllProfileLevelFiles(VARIANTFILE_TYPE type, 
 unsigned long CTervixProfile::deleteAllProfileLevelFiles(bool updated) {
   for (const EntryForm& form : kEntryForms)
     deleteAllProfileLevelFiles(form.type, updated);
-  unreadVariantFile_.clear();
+  variantFileUnread_ = false;
   return 0;
 }
 
@@ -175,8 +175,7 @@ unsigned long CTervixProfile::readProfileLevelVariants() {
   tervix::LineReader file;
   const auto opening = file.open(variantFilePath_);
   if (opening == platform::FileReader::Opening::kNoReadableFile) {
-    if (platform::isTaken(variantFilePath_))
-      unreadVariantFile_ = variantFilePath_;
+    variantFileUnread_ = platform::isTaken(variantFilePath_);
     return tervix::raiseError(tervix::kFileDoesNotExist, variantFilePath_);
   }
   Lists lists;
@@ -184,7 +183,7 @@ unsigned long CTervixProfile::readProfileLevelVariants() {
     while (const auto line = file.next())
       takeLine(*line, lists);
   if (opening != platform::FileReader::Opening::kOpened || file.failed()) {
-    unreadVariantFile_ = variantFilePath_;
+    variantFileUnread_ = true;
     return tervix::raiseError(tervix::kCannotReadFile, variantFilePath_);
   }
   for (const EntryForm& form : kEntryForms)
@@ -204,7 +203,7 @@ unsigned long CTervixProfile::writeProfileLevelVariants() {
   }
   if (variantFilePath_.empty())
     return 1;
-  if (unreadVariantFile_ == variantFilePath_ && platform::isTaken(variantFilePath_))
+  if (variantFileUnread_ && platform::isTaken(variantFilePath_))
     return tervix::raiseError(tervix::kCannotWriteFile, variantFilePath_);
   std::string text;
   for (const EntryForm& form : kEntryForms)

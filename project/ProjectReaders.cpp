@@ -27,14 +27,13 @@ struct ResourceItem {
 // A file that the project file lists. "ab/x" does not count as relative; a front end may mean it
 // so all the same, and gets it so where it leads to a file.
 std::string listedFile(const std::string& projectFolder, const std::string& listed) {
-  std::string file = resolvedAgainst(projectFolder, listed)
-                         .value_or(projectFolder + "/" + toForwardSlashes(listed));
-  const bool isUnchanged = file == toForwardSlashes(listed);
-  const bool hasDrive = file.size() > 1 && file[1] == ':';
-  const bool hasRoot = !file.empty() && file.front() == '/';
-  if (isUnchanged && !hasDrive && !hasRoot && !platform::isReadableFile(file))
-    return projectFolder + "/" + file;
-  return file;
+  const std::string named = toForwardSlashes(listed);
+  auto file = resolvedAgainst(projectFolder, named);
+  const bool hasDrive = named.size() > 1 && named[1] == ':';
+  const bool hasRoot = !named.empty() && named.front() == '/';
+  if (file && (*file != named || hasDrive || hasRoot || platform::isReadableFile(named)))
+    return std::move(*file);
+  return projectFolder.empty() ? named : joined({projectFolder, "/", named});
 }
 
 using SimFileVisit = std::function<void(const SimFile&)>;
@@ -67,8 +66,8 @@ unsigned long readRegisteredProfiles(const SimFileVisit& visit, std::string& act
   std::list<std::string> registered;
   if (!closed::listProfiles(projectFile, registered, activeProfile))
     return raiseError(kInvalidFileSyntax, projectFile);
-  for (const std::string& listed : registered)
-    visitIfReadable(visit, listedFile(projectFolder, listed));
+  for (; !registered.empty(); registered.pop_front()) // what is done with makes room
+    visitIfReadable(visit, listedFile(projectFolder, registered.front()));
   return 0;
 }
 

@@ -193,6 +193,24 @@ TEST_F(IncludeList, IsRewrittenOnDestructionEvenWhenNothingChanged) {
   EXPECT_EQ(contentOf(listPath()), ".LIB\t\"x.lib\" \n");
 }
 
+TEST_F(IncludeList, ThatIsGoneIsWrittenAnewOnDestruction) {
+  opened(".LIB\t\"x.lib\" \n").setVariantsUpdated(false);
+  std::filesystem::remove(listPath());
+  profile_.reset();
+  EXPECT_EQ(contentOf(listPath()), ".LIB\t\"x.lib\" \n");
+}
+
+TEST_F(IncludeList, LoadedForAnyOtherProjectLeavesTheListsInPlace) {
+  CTervixProfile& profile = opened(".lib \"x.lib\"\n");
+  profile.setVariantsUpdated(false);
+  profile.setProjectType(PROJECT_TYPE_OTHER);
+  EXPECT_EQ(profile.readProfileLevelVariants(), 0U);
+  int count = 0;
+  EXPECT_EQ(profile.numberOfProfileLevelFiles(count, VARIANTFILE_TYPE_LIBRARY), 0U);
+  EXPECT_EQ(count, 1);
+  EXPECT_FALSE(isUpdated(profile));
+}
+
 TEST_F(IncludeList, WithoutEntriesIsRemovedWhenTheProfileIsDestroyed) {
   opened("* nothing\n");
   profile_.reset();
