@@ -17,6 +17,13 @@ bool moveToOtherDevice(const std::string& oldPath, const std::string& newPath) {
   return false;
 }
 
+// No system does that by itself.
+bool replaceFileByFolder(const std::string& folder, const std::string& file) {
+  return platform::isFolder(folder) && platform::isReadableFile(file) &&
+         platform::removeFile(file) &&
+         platform::moveEntry(folder, file) == platform::MoveResult::kMoved;
+}
+
 } // namespace
 
 unsigned long filePathExists(std::string& path, bool& exists) {
@@ -41,7 +48,7 @@ unsigned long mvFile(std::string& oldPath, std::string& newPath) {
   case platform::MoveResult::kOtherDevice:
     return platform::isReadableFile(oldPath) && moveToOtherDevice(oldPath, newPath) ? 0 : 1;
   case platform::MoveResult::kFailed:
-    break;
+    return replaceFileByFolder(oldPath, newPath) ? 0 : 1;
   }
   return 1;
 }

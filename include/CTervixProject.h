@@ -209,8 +209,7 @@ public:
   unsigned long deleteAllDesignLevelFiles();
   unsigned long numberOfDesignLevelFiles(int& count, VARIANTFILE_TYPE type) const;
   // A path for a new file of that kind, named after the design: in the project's folder, for
-  // front end 2 with PROJECT_TYPE_SIMULATION in its "-TervixFiles" folder. 1: unknown front end,
-  // or the project type is not set.
+  // front end 2 with PROJECT_TYPE_SIMULATION in its "-TervixFiles" folder. 1: unknown front end.
   unsigned long getDefaultDesignLibPath(std::string& path, VARIANTFILE_TYPE type);
   // The same for a profile, given by its ".sim" file: in its folder, named after it. 1 unless the
   // project is a PROJECT_TYPE_SIMULATION; 10112 for a type outside the enumeration; the status of

@@ -99,9 +99,11 @@ TERVIX_API unsigned long readDir(_dirdesc* handle, std::string& name);
 TERVIX_API unsigned long closeDir(_dirdesc* handle);
 
 // Copies what stands in the folder source into the folder target, made with its parents when
-// missing, and stops at the first entry that cannot be copied. Nothing is rolled back.
+// missing, and stops at the first entry that cannot be copied. What was copied so far stays, but
+// for the half of a new file.
 // Deliberate: a name without a dot is taken for a folder, a name with one for a file, whatever
-// the entry is. A link is copied as what it leads to; one that leads nowhere is left out.
+// the entry is. A link is copied as what it leads to; one of a folder's name that leads nowhere is
+// left out.
 // 0; 10102, recorded, when target cannot be made; 1 when source cannot be opened, an entry
 // fails, a link leads back to a folder that is being copied, or target is source or lies in it
 // (nothing is made then).
@@ -116,7 +118,8 @@ TERVIX_API unsigned long cpFile(std::string& source, std::string& target);
 // Deletes the file path. 1 when it could not be deleted.
 TERVIX_API unsigned long rmFile(std::string& path);
 
-// Moves oldPath to newPath; a file at newPath is replaced. A file is also moved between devices.
+// Moves the file or folder oldPath to newPath; a file at newPath is replaced. A file is also moved
+// between devices.
 // 1 when the move failed: the old file is then still there. A missing oldPath, or two paths of
 // one file: 1, nothing touched.
 TERVIX_API unsigned long mvFile(std::string& oldPath, std::string& newPath);

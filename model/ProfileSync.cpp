@@ -80,7 +80,7 @@ unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& ne
   std::string oldFolder = withoutEnding(oldPath);
   std::string newFolder = withoutEnding(newPath);
   if (oldFolder.empty() || newFolder.empty())
-    return 1;
+    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
   unsigned long result = 0;
   // A folder is not copied onto itself, and need not be.
   if (cpDir(oldFolder, newFolder) != 0 && !platform::isSameEntry(oldFolder, newFolder))

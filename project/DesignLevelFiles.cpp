@@ -101,13 +101,10 @@ unsigned long CTervixProject::getDefaultDesignLibPath(std::string& path, VARIANT
   if (getVariantFileType(suffix, type) != 0)
     return refuseKind();
   FRONTEND_ID frontEnd = FRONTEND_ID_UNSET;
-  PROJECT_TYPE projectType = PROJECT_TYPE_UNSET;
   if (const unsigned long status = getFrontEndId(frontEnd); status != 0)
     return status;
-  if (const unsigned long status = CTervixNode::getProjectType(projectType); status != 0)
-    return status;
   std::string folder = tervix::folderPathOf(*this);
-  if (frontEnd == FRONTEND_ID_DESIGN_FILE && projectType == PROJECT_TYPE_SIMULATION)
+  if (frontEnd == FRONTEND_ID_DESIGN_FILE && tervix::isSimulation(*this))
     folder += "/" + tervix::filesFolder(tervix::nameOf(*this));
   else if (frontEnd != FRONTEND_ID_DESIGN_FILE && frontEnd != FRONTEND_ID_PROJECT_FILE)
     return 1;

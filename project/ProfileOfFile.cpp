@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "CTervixProject.h"
-#include "foundation/ErrorTable.h"
+#include "foundation/LastError.h"
 #include "foundation/PathNames.h"
 #include "foundation/Text.h"
 #include "model/NodeFields.h"
@@ -58,17 +58,23 @@ void completeFromPlace(ProfileKey& key, const std::string& simPath, const CTervi
   }
 }
 
+// A file without them is no failure yet.
+bool hasAllKeys(tervix::SimProjectInfo& info, const tervix::SimFile& file) {
+  const tervix::LastErrorKept kept;
+  return tervix::readSimProjectInfo(info, file) == 0;
+}
+
 // The names that the file holds. A simulation project's file has all keys of a profile file, some
 // of them without a value, but two suffice.
 unsigned long readKey(ProfileKey& key, const tervix::SimFile& file, const CTervixProject& project) {
   if (!tervix::isSimulation(project))
     return tervix::readProfileNameAndRoot(key.schematic, key.profile, file);
   tervix::SimProjectInfo info;
-  unsigned long status = tervix::readSimProjectInfo(info, file);
-  if (status == tervix::kInvalidSimFile)
-    status = tervix::readProfileNameAndRoot(info.rootSchematic, info.profileName, file);
-  if (status != 0)
-    return status;
+  if (!hasAllKeys(info, file))
+    if (const unsigned long status =
+            tervix::readProfileNameAndRoot(info.rootSchematic, info.profileName, file);
+        status != 0)
+      return status;
   key = {std::move(info.rootSchematic), std::move(info.profileName)};
   completeFromPlace(key, file.path(), project);
   return 0;
@@ -79,6 +85,7 @@ unsigned long readKey(ProfileKey& key, const tervix::SimFile& file, const CTervi
 CTervixProfile* profileAtPathOf(std::string& path, const std::string& simPath,
                                 const ProfileKey& key, const CTervixProject& project) {
   const tervix::SimPathSearch search(project);
+  path.reserve(simPath.size() + key.schematic.size() + key.profile.size() + 1);
   path = simPath;
   if (CTervixProfile* own = search.find(path); own != nullptr)
     return own;

@@ -95,7 +95,8 @@ unsigned long CTervixProject::getDsnSchProfNamesForNewMarkerKey(std::string& des
     return 1;
   getDsnSchProfNamesForMarkerKey(designName, schematicName, profileName, key);
   // Deliberate: only a renamed schematic is reported under its new name.
-  if (record.kind == RENAME_TYPE_SCHEMATIC && schematicName == record.former)
+  if (record.kind == RENAME_TYPE_SCHEMATIC &&
+      tervix::equalsIgnoringCase(schematicName, record.former))
     schematicName = record.changed;
   return 0;
 }

@@ -30,6 +30,12 @@ TEST_F(MoveFile, ReplacesAnExistingFile) {
   EXPECT_EQ(snapshot(), (Snapshot{{"new", "content"}}));
 }
 
+TEST_F(MoveFile, PutsAFolderInPlaceOfAFile) {
+  folder_.file("old/inner", "content");
+  EXPECT_EQ(mvFile(text(folder_.path("old")), text(folder_.file("new", "former"))), 0U);
+  EXPECT_EQ(contentOf(folder_.path("new/inner")), "content");
+}
+
 TEST_F(MoveFile, TakesBackslashesForSeparators) {
   folder_.folder("sub");
   EXPECT_EQ(mvFile(text(folder_.file("old", "x")), text(folder_.path() + "\\sub\\new")), 0U);

@@ -268,12 +268,16 @@ TEST(DefaultDesignPath, IsNoneWithoutAFrontEnd) {
   EXPECT_EQ(path, "");
 }
 
-TEST(DefaultDesignPath, IsNoneWithoutAProjectType) {
+TEST(DefaultDesignPath, LiesInTheProjectsFolderWithoutAProjectType) {
   CTervixProject project;
-  project.setFrontEndId(FRONTEND_ID_PROJECT_FILE);
-  std::string path = "unset";
-  EXPECT_EQ(project.getDefaultDesignLibPath(path, VARIANTFILE_TYPE_LIBRARY), 1u);
-  EXPECT_EQ(path, "");
+  project.setFolderPath(arg("P"));
+  project.setDesignName(arg("amp"));
+  for (const FRONTEND_ID frontEnd : {FRONTEND_ID_PROJECT_FILE, FRONTEND_ID_DESIGN_FILE}) {
+    project.setFrontEndId(frontEnd);
+    std::string path;
+    EXPECT_EQ(project.getDefaultDesignLibPath(path, VARIANTFILE_TYPE_LIBRARY), 0u);
+    EXPECT_EQ(path, "P/amp.lib");
+  }
 }
 
 TEST(DefaultProfilePath, OfAnUnknownFilePassesTheStatusOn) {

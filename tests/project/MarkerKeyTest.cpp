@@ -145,9 +145,9 @@ TEST_F(MarkerKeys, OfARenamedSchematicMatchItsCase) {
   EXPECT_EQ(renamed("amp-TOP-tran.mrk"), "1 //");
 }
 
-TEST_F(MarkerKeys, OfARenamedSchematicRecordedInAnotherCaseKeepTheTreesName) {
+TEST_F(MarkerKeys, OfARenamedSchematicMayBeRecordedInAnotherCase) {
   record("top", "NEW", RENAME_TYPE_SCHEMATIC);
-  EXPECT_EQ(renamed("amp-NEW-tran.mrk"), "0 amp/TOP/tran");
+  EXPECT_EQ(renamed("amp-NEW-tran.mrk"), "0 amp/NEW/tran");
 }
 
 TEST_F(MarkerKeys, OfARenamedSchematicThatLeadNowhereStandForNothing) {

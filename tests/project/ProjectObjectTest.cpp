@@ -252,15 +252,44 @@ TEST(ProjectFolders, AreCopiedWithWhatTheyHold) {
 }
 
 TEST(ProjectAssignment, ChangesNothingInTheTarget) {
-  CTervixProject source;
-  source.setDesignName(arg("other"));
-  source.setName(arg("other"));
+  OpenedProject source("/w/other.tvp", 2, true, "other");
+  source->setDesignName(arg("other"));
+  source->setDesignPath(arg("/w/other.dsn"));
+  source->setDesignFolderPath(arg("/w"));
+  source->setTervixOutputFile(arg("other.out"));
+  source->setInitializationTime(5);
+  source->setRefCount(9);
+  source->setPrpIndexStale(false);
+  source->setChangedName(arg("TOP"), arg("NEW"), RENAME_TYPE_SCHEMATIC);
+  source->addDesignLevelFile(arg("other.lib"), VARIANTFILE_TYPE_LIBRARY);
+  addProfile(*source, "TOP", "tran");
+  source->setRootSchematic(arg("TOP"));
   CTervixProject target;
   target.setDesignName(arg("amp"));
-  EXPECT_EQ(&(target = source), &target);
-  EXPECT_EQ(target.clone(source), 0u);
+  EXPECT_EQ(&(target = *source), &target);
+  EXPECT_EQ(target.clone(*source), 0u);
+
   EXPECT_EQ(textOf(target, &CTervixProject::getDesignName), "amp");
+  for (const auto getter :
+       {&CTervixProject::getDesignPath, &CTervixProject::getDesignFolderPath,
+        &CTervixProject::getTervixOutputFile, &CTervixProject::getInitializationPath})
+    EXPECT_EQ(textOf(target, getter), "");
   EXPECT_EQ(textOf(target, &CTervixNode::getName), "");
+  EXPECT_EQ(textOf(target, &CTervixNode::getPath), "");
+  std::string root;
+  EXPECT_EQ(target.getRootSchematic(root), 1u);
+  int schematics = -1;
+  target.numberOfSchematics(schematics);
+  EXPECT_EQ(schematics, 0);
+  int libraries = -1;
+  target.numberOfDesignLevelFiles(libraries, VARIANTFILE_TYPE_LIBRARY);
+  EXPECT_EQ(libraries, 0);
+  unsigned int references = 9;
+  target.getRefCount(references);
+  EXPECT_NE(references, 9u);
+  bool isStale = false;
+  target.isPrpIndexStale(isStale);
+  EXPECT_TRUE(isStale);
 }
 
 TEST(ProjectCopy, HoldsEveryField) {
