@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "foundation/platform/FileDetails.h"
 #include "tools/tervix/Json.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/Table.h"
@@ -12,11 +11,6 @@ namespace tervix::tool {
 namespace {
 
 constexpr int kShapeVersion = 1;
-
-// What is there of a file that counts as one; none for what cannot be opened.
-std::optional<platform::FileDetails> detailsOf(const FileView& file) {
-  return file.exists ? platform::detailsOf(file.place) : std::nullopt;
-}
 
 Json jsonOfFile(const FileView& file) {
   const auto details = detailsOf(file);
@@ -104,6 +98,10 @@ private:
 };
 
 } // namespace
+
+std::optional<platform::FileDetails> detailsOf(const FileView& file) {
+  return file.exists ? platform::detailsOf(file.place) : std::nullopt;
+}
 
 void printListing(std::ostream& out, const FileListing& listing, const Style& style) {
   ListingPrinter(out, listing, style).print();

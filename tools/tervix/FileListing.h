@@ -1,15 +1,20 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "foundation/platform/FileDetails.h"
 #include "tools/tervix/ProjectView.h"
 #include "tools/tervix/Style.h"
 #include "tools/tervix/changes/Lookup.h"
 
 namespace tervix::tool {
+
+// What is there of a file that counts as one; none for what cannot be opened.
+std::optional<platform::FileDetails> detailsOf(const FileView& file);
 
 // The schematics and profiles of a project whose files are listed.
 struct FileListing {

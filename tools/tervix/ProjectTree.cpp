@@ -40,10 +40,8 @@ private:
 
   std::string kindOfProject() const {
     std::string kind = "project of type " + std::to_string(project_.type);
-    if (project_.type == PROJECT_TYPE_SIMULATION)
-      kind += " (a folder for each profile)";
-    else if (project_.type == PROJECT_TYPE_OTHER)
-      kind += " (files beside the schematic)";
+    if (const std::string layout = layoutName(project_.type); !layout.empty())
+      kind += " (" + layout + ")";
     return kind + ", front end " + std::to_string(project_.frontEnd);
   }
 

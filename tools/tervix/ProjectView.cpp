@@ -105,6 +105,17 @@ std::vector<FileView> unusedProfiles(const std::string& projectFile, const std::
 
 } // namespace
 
+const char* layoutName(PROJECT_TYPE type) {
+  switch (type) {
+  case PROJECT_TYPE_SIMULATION:
+    return "a folder for each profile";
+  case PROJECT_TYPE_OTHER:
+    return "files beside the schematic";
+  default:
+    return "";
+  }
+}
+
 ProjectView viewOf(CTervixProject& project) {
   ProjectView view{};
   view.name = textOf(project, &CTervixProject::getName);

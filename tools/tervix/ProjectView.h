@@ -53,6 +53,9 @@ struct ProjectView {
   std::vector<FileView> unusedProfiles; // listed in the project file, but missing or not valid
 };
 
+// What a type of project means to a person; empty for one that is not known.
+const char* layoutName(PROJECT_TYPE type);
+
 ProjectView viewOf(CTervixProject& project);
 
 } // namespace tervix::tool

@@ -18,6 +18,7 @@
 #include "tools/tervix/commands/LibCommand.h"
 #include "tools/tervix/commands/ProfileCommand.h"
 #include "tools/tervix/commands/ProjectCommand.h"
+#include "tools/tervix/commands/ReportCommand.h"
 #include "tools/tervix/commands/SchematicCommand.h"
 #include "tools/tervix/usage/CommandTree.h"
 #include "tools/tervix/usage/HelpLayout.h"
@@ -79,6 +80,7 @@ int run(int argc, char** argv) {
   addProjectCommand(app);
   addArchiveCommand(app);
   addCheckCommand(app);
+  addReportCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::RuntimeError& done) {

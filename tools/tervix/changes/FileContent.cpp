@@ -83,7 +83,7 @@ void writeNewFile(const std::string& path, const std::string& content) {
 }
 
 std::string nameBeside(const std::string& path) {
-  const fs::path place = fs::canonical(path);
+  const fs::path place = fs::weakly_canonical(path);
   fs::path name = place.parent_path() / (".tervix-" + place.filename().string());
   for (int attempt = 1; isThere(name.string()); ++attempt)
     name = place.parent_path() /
@@ -118,6 +118,25 @@ void writeFile(const std::string& path, const std::string& content) {
   const std::string staged = nameBeside(path);
   stageFile(path, staged, content);
   putInPlace(staged, path);
+}
+
+void writeWholeFile(const std::string& path, const std::string& content) {
+  if (isThere(path)) {
+    writeFile(path, content);
+    return;
+  }
+  const std::string staged = nameBeside(path);
+  writeStream(staged, content);
+  std::error_code error;
+  if (platform::flushFile(staged))
+    fs::rename(staged, path, error);
+  else
+    error = std::make_error_code(std::errc::io_error);
+  if (error) {
+    std::error_code ignored;
+    fs::remove(staged, ignored);
+    throw Failure(inQuotes(path) + " could not be written: " + error.message());
+  }
 }
 
 void copyFile(const std::string& source, const std::string& target) {

@@ -14,6 +14,8 @@ void writeNewFile(const std::string& path, const std::string& content);
 // Replaces a file in one step, keeping its permissions and following a link; the old content is
 // there until the new one is whole.
 void writeFile(const std::string& path, const std::string& content);
+// Makes a file or replaces one, in one step as well.
+void writeWholeFile(const std::string& path, const std::string& content);
 // The copy is compared with its source; a new one that is not the same does not stay.
 void copyFile(const std::string& source, const std::string& target);
 

@@ -1,6 +1,5 @@
 #include "tools/tervix/check/FindingsJson.h"
 
-#include "tools/tervix/Json.h"
 #include "tools/tervix/check/FindingsText.h"
 
 namespace tervix::tool {
@@ -27,6 +26,10 @@ Json jsonOfRepairs(const RepairPlan* repairs, bool areDone) {
 
 } // namespace
 
+Json jsonOfFindings(const std::vector<Finding>& findings) {
+  return arrayOf(findings, jsonOfFinding);
+}
+
 std::string jsonOf(const CheckedProject& checked, const RepairPlan* repairs, bool areDone) {
   const Json json = {{"version", kShapeVersion},
                      {"project", checked.path},
@@ -34,7 +37,7 @@ std::string jsonOf(const CheckedProject& checked, const RepairPlan* repairs, boo
                      {"errors", countOf(checked.findings, Severity::kError)},
                      {"warnings", countOf(checked.findings, Severity::kWarning)},
                      {"notes", countOf(checked.findings, Severity::kNote)},
-                     {"findings", arrayOf(checked.findings, jsonOfFinding)},
+                     {"findings", jsonOfFindings(checked.findings)},
                      {"fix", jsonOfRepairs(repairs, areDone)}};
   return textOf(json);
 }

@@ -2,7 +2,7 @@
 
 namespace tervix::tool {
 
-void addOpenOptions(CLI::App& command, OpenOptions& options) {
+void addProjectOptions(CLI::App& command, OpenOptions& options) {
   command
       .add_option("FILE", options.file,
                   "The project file (.tvp), or a .sim, .aap or .$ap file of the project")
@@ -14,6 +14,10 @@ void addOpenOptions(CLI::App& command, OpenOptions& options) {
                   "unless given")
       ->check(CLI::Range(0, 2))
       ->option_text("N");
+}
+
+void addOpenOptions(CLI::App& command, OpenOptions& options) {
+  addProjectOptions(command, options);
   command.add_flag("--json", options.asJson, "Print JSON");
 }
 

@@ -14,6 +14,8 @@ struct OpenOptions {
   bool asJson = false;
 };
 
+// The file and the front end alone, for a command that prints nothing.
+void addProjectOptions(CLI::App& command, OpenOptions& options);
 void addOpenOptions(CLI::App& command, OpenOptions& options);
 
 } // namespace tervix::tool
