@@ -113,11 +113,11 @@ TEST_F(ReportCurves, AreThoseOfFurtherFilesWithTheNameOfTheProfile) {
 
 TEST_F(ReportCurves, AreLeftOutOfAFileThatIsTooLarge) {
   writeFile(copy_.path("amp-TOP-ac.dat"), "Title: x\n");
-  std::filesystem::resize_file(copy_.path("amp-TOP-ac.dat"), 300'000'000);
+  std::filesystem::resize_file(copy_.path("amp-TOP-ac.dat"), 1'200'000'000);
   const Json outputs = outputsOf(1);
   EXPECT_TRUE(outputs[0]["plots"].empty());
   EXPECT_EQ(outputs[0]["remarks"][0],
-            "Not drawn: it has 300.0 MB, and no file of more than 256.0 MB is read.");
+            "Not drawn: it has 1.2 GB, and no file of more than 1.0 GB is read.");
 }
 
 TEST_F(ReportCurves, AreLeftOutBeyondTheSizeOfAPage) {

@@ -132,6 +132,14 @@ class Reports(unittest.TestCase):
                           if finding["severity"] != "error"])
         self.assertGreater(self.count("#findings tbody tr"), 0)
 
+    def test_many_findings_are_shown_bit_by_bit(self):
+        self.open(projects.with_missing_libraries(
+            self.folder / "missing", EXAMPLES / "amp-flat", 250))
+        self.assertEqual(self.count("#findings tbody tr"), 100)
+        self.click("#findings .more")
+        self.assertEqual(self.count("#findings tbody tr"), 250)
+        self.assertEqual(self.count("#findings .more[hidden]"), 1)
+
     def test_a_project_that_does_not_open_says_why(self):
         project = self.folder / "bad.tvp"
         project.write_text("[")

@@ -61,6 +61,15 @@ def simulated(folder, sample):
     return folder / "amp.tvp"
 
 
+def with_missing_libraries(folder, sample, count):
+    """A sample with as many findings."""
+    shutil.copytree(sample, folder)
+    project = folder / "amp.tvp"
+    missing = ", ".join(f'"gone{number}.lib"' for number in range(count))
+    project.write_text(project.read_text().replace('"npn.lib"', f'"npn.lib", {missing}'))
+    return project
+
+
 HOSTILE = '</script><script>document.title="lost"</script><img src=x onerror=document.title="lost">'
 
 

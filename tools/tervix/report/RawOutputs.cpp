@@ -12,8 +12,8 @@ namespace tervix::tool {
 namespace {
 
 // A page has to stay one that a browser opens at once, and making it a matter of seconds.
-constexpr std::uint64_t kLargestFile = 256'000'000;
-constexpr std::uint64_t kMostRead = 2'000'000'000;
+constexpr std::uint64_t kLargestFile = 1'000'000'000;
+constexpr std::uint64_t kMostRead = 4'000'000'000;
 constexpr std::size_t kMostDrawn = 12'000'000;
 
 void addIfRaw(std::vector<std::string>& outputs, const std::string& path) {
