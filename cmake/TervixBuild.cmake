@@ -44,6 +44,7 @@ function(tervix_add_layer name)
   cmake_parse_arguments(layer "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} OBJECT ${layer_SOURCES})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
-  target_compile_definitions(${name} PRIVATE TERVIX_BUILDING)
+  target_compile_definitions(${name} PRIVATE TERVIX_BUILDING
+    PUBLIC $<$<BOOL:${WIN32}>:TERVIX_STATIC>) # what the DLL exports is listed when it is linked
   target_link_libraries(${name} PUBLIC ${layer_LINKS} PRIVATE tervix_warnings)
 endfunction()

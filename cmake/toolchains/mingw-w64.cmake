@@ -5,6 +5,11 @@ set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
+# The compiler's own run-time libraries go into each binary, so that a folder of them runs as it is.
+foreach(kind EXE SHARED MODULE)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT -static)
+endforeach()
+
 include(${CMAKE_CURRENT_LIST_DIR}/HeaderPackages.cmake)
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${TERVIX_HEADER_PACKAGES})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

@@ -1,15 +1,8 @@
 cmake_minimum_required(VERSION 3.22)
 # Compares the symbols that the library exports with the list in the repository. To record a
 # deliberate change, run it with -DRECORD=ON.
-execute_process(COMMAND ${NM} -D --defined-only --demangle ${LIBRARY}
-  OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-string(REGEX REPLACE "[0-9a-f]* [A-Za-z] ([^\n]*)\n" "\\1\n" names "${symbols}")
-string(REPLACE "[abi:cxx11]" "" names "${names}")
-string(REPLACE "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
-  "std::string" names "${names}")
-string(REPLACE ";" "," names "${names}")
-string(REGEX REPLACE "\n" ";" names "${names}")
-list(FILTER names EXCLUDE REGEX "^$|__asan|__odr_asan|__ubsan")
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/SymbolNames.cmake)
+tervix_exported_names(${LIBRARY} names)
 list(SORT names)
 list(REMOVE_DUPLICATES names)
 string(JOIN "\n" actual ${names})

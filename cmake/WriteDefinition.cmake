@@ -1,0 +1,33 @@
+# Writes the module definition of a DLL: those symbols of OBJECTS that the list EXPORTS names.
+cmake_minimum_required(VERSION 3.22)
+include(${CMAKE_CURRENT_LIST_DIR}/SymbolNames.cmake)
+
+function(list_symbols result)
+  execute_process(COMMAND ${NM} --extern-only --defined-only --no-sort ${ARGN} ${OBJECTS}
+    OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+  # Names of the objects, and the sections that stand for symbols in them.
+  string(REGEX REPLACE "[^\n]*:\n" "" output "${output}")
+  string(REGEX REPLACE "\n\n+" "\n" output "${output}")
+  set(${result} "${output}" PARENT_SCOPE)
+endfunction()
+list_symbols(mangled)
+list_symbols(demangled --demangle)
+string(REGEX MATCHALL "[A-Za-z] [^\n]+" mangled "${mangled}")
+tervix_symbol_names("${demangled}" demangled)
+file(STRINGS ${EXPORTS} exports)
+
+set(lines)
+foreach(symbol name IN ZIP_LISTS mangled demangled)
+  if(name IN_LIST exports)
+    string(REGEX MATCH "^(.) (.*)$" symbol "${symbol}")
+    if(CMAKE_MATCH_1 STREQUAL "T")
+      list(APPEND lines "  ${CMAKE_MATCH_2}\n")
+    else()
+      list(APPEND lines "  ${CMAKE_MATCH_2} DATA\n")
+    endif()
+  endif()
+endforeach()
+list(SORT lines)
+list(REMOVE_DUPLICATES lines)
+string(JOIN "" lines ${lines})
+file(WRITE ${DEFINITION} "EXPORTS\n${lines}")
