@@ -24,6 +24,7 @@ endif()
 set(TERVIX_READERS_DIR ${CMAKE_INSTALL_LIBDIR}/tervixexplorer)
 if(WIN32)
   set(TERVIX_READERS_DIR ${CMAKE_INSTALL_BINDIR})
+  set(TERVIX_ARCHIVE tervixexplorer-${PROJECT_VERSION}-windows-x86_64) # what cpack makes
 endif()
 
 add_library(tervix_warnings INTERFACE)
@@ -36,6 +37,18 @@ if(TERVIX_SANITIZE)
   add_compile_options(-fsanitize=${TERVIX_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${TERVIX_SANITIZE})
+endif()
+
+# What reads paths as std::filesystem has them, and what programs take that name files in UTF-8.
+add_library(tervix_narrow_text INTERFACE)
+add_library(tervix_utf8 INTERFACE)
+if(WIN32)
+  enable_language(RC)
+  set(windows ${PROJECT_SOURCE_DIR}/foundation/platform/windows)
+  target_sources(tervix_narrow_text INTERFACE ${windows}/NarrowText.cpp)
+  target_include_directories(tervix_narrow_text INTERFACE ${PROJECT_SOURCE_DIR})
+  target_sources(tervix_utf8 INTERFACE ${windows}/utf8.rc)
+  target_link_libraries(tervix_utf8 INTERFACE tervix_narrow_text)
 endif()
 
 # A layer of the library: objects that go into the shared library, and that tests of its insides

@@ -1,6 +1,19 @@
-# The Debian packages that `cpack` makes: one for each component of the installation. Debian lays
-# files out below /usr and wants some more in each package, so this takes TERVIX_DEBIAN, which the
-# preset "debian" sets.
+# What `cpack` makes.
+
+# For Windows, an archive with everything.
+if(WIN32)
+  install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION .
+    COMPONENT library)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_NAME tervixexplorer)
+  set(CPACK_PACKAGE_FILE_NAME ${TERVIX_ARCHIVE})
+  set(CPACK_STRIP_FILES ON)
+  include(CPack)
+  return()
+endif()
+
+# The Debian packages: one for each component of the installation. Debian lays files out below /usr
+# and wants some more in each package, so this takes TERVIX_DEBIAN, which the preset "debian" sets.
 
 if(NOT TERVIX_DEBIAN)
   return()

@@ -23,8 +23,12 @@ endforeach()
 
 file(REMOVE_RECURSE ${WORK})
 file(COPY ${ROOT}/examples/amp-simulation/ DESTINATION ${WORK})
-execute_process(COMMAND ${PROGRAM} ${WORK}/amp.tvp OUTPUT_VARIABLE output
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} ${WORK}/amp.tvp OUTPUT_VARIABLE output
   COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE "\r" "" output "${output}")
+if(EMULATOR)
+  string(REPLACE "Z:" "" output "${output}") # where Windows sees the files of this system
+endif()
 string(REPLACE "/" "\\" work_with_backslashes "${WORK}")
 string(REPLACE "${WORK}" "/home/you/amp" output "${output}")
 string(REPLACE "${work_with_backslashes}" "\\home\\you\\amp" output "${output}")

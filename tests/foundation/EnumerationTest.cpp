@@ -5,6 +5,7 @@
 
 #include "TervixFiles.h"
 #include "tests/support/LastErrorCheck.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace tervix::testing {
@@ -55,9 +56,13 @@ TEST_F(Enumeration, OfAnEmptyFolderGivesTheTwoDotsAndThenOne) {
 TEST_F(Enumeration, GivesEveryEntryOnceWhateverItsKindAndName) {
   folder_.file("x.sim");
   folder_.folder("sub");
-  folder_.file("two\nlines %s \"\xC3\xA4\xFF");
-  EXPECT_EQ(namesIn(folder_.path()),
-            (Names{".", "..", "x.sim", "sub", "two\nlines %s \"\xC3\xA4\xFF"}));
+  Names expected = {".", "..", "x.sim", "sub"};
+  for (const char* name : {"two\nlines %s \"\xC3\xA4\xFF", "50%s \xC3\xA4"})
+    if (canBeAFileName(name)) {
+      folder_.file(name);
+      expected.insert(name);
+    }
+  EXPECT_EQ(namesIn(folder_.path()), expected);
 }
 
 TEST_F(Enumeration, IsTakenWhenTheFolderIsOpened) {

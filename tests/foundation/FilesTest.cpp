@@ -5,6 +5,7 @@
 
 #include "TervixFiles.h"
 #include "tests/support/LastErrorCheck.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace tervix::testing {
@@ -95,8 +96,8 @@ TEST_F(Files, ANewCopyTakesThePermissionsOfItsSource) {
 
 TEST_F(Files, AnOverwrittenTargetKeepsItsPermissions) {
   std::string target = folder_.file("target", "x");
-  const auto kept = fs::perms::owner_read | fs::perms::owner_write;
-  fs::permissions(target, kept);
+  fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+  const auto kept = fs::status(target).permissions(); // as the system knows them
   EXPECT_EQ(cpFile(text(folder_.file("source", "y")), target), 0U);
   EXPECT_EQ(fs::status(target).permissions(), kept);
   EXPECT_EQ(contentOf(target), "y");
@@ -171,7 +172,10 @@ TEST_F(Files, AZeroByteDoesNotLeadToAnotherFile) {
 }
 
 TEST_F(Files, OddNamesAreOrdinaryNames) {
-  for (const char* name : {"50%s%n", "say \"hi\"", "two\nlines", "\xC3\xA4\xFF", " ", "-rf"}) {
+  for (const char* name :
+       {"50%s%n", "say \"hi\"", "two\nlines", "\xC3\xA4\xFF", " ", "-rf", "\xC3\xA4"}) {
+    if (!canBeAFileName(name))
+      continue;
     std::string source = folder_.file(name, name);
     std::string target = folder_.path(std::string(name) + ".copy");
     std::string moved = folder_.path(std::string(name) + ".moved");

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "tests/model/VariantTree.h"
+#include "tests/support/System.h"
 
 // The include list "_profile.inc" on disk.
 
@@ -128,10 +129,10 @@ TEST_F(IncludeList, IsSavedByKindWithBackslashes) {
   add(profile, "./i/1.inc", VARIANTFILE_TYPE_INCLUDE);
   EXPECT_EQ(profile.writeVariants(), 0U);
   EXPECT_FALSE(isUpdated(profile));
-  EXPECT_EQ(contentOf(listPath()), ".INC\t\".\\i\\1.inc\" \n"
-                                   ".LIB\t\"C:\\l\\1.lib\" \n"
-                                   ".LIB\t\"C:\\l\\2.lib\" \n"
-                                   ".STMLIB\t\"C:\\s\\1.stl\" \n");
+  EXPECT_EQ(contentOf(listPath()), inTextMode(".INC\t\".\\i\\1.inc\" \n"
+                                              ".LIB\t\"C:\\l\\1.lib\" \n"
+                                              ".LIB\t\"C:\\l\\2.lib\" \n"
+                                              ".STMLIB\t\"C:\\s\\1.stl\" \n"));
 }
 
 TEST_F(IncludeList, IsReadBackAsItWasSaved) {
@@ -184,13 +185,13 @@ TEST_F(IncludeList, ThatCannotBeWrittenIsNamed) {
 TEST_F(IncludeList, IsRewrittenInNormalFormWhenTheProfileIsDestroyed) {
   opened("* by hand\n.lib   \"x.lib\" trailing\n.INC \"y.inc\"\n");
   profile_.reset();
-  EXPECT_EQ(contentOf(listPath()), ".INC\t\"y.inc\" \n.LIB\t\"x.lib\" \n");
+  EXPECT_EQ(contentOf(listPath()), inTextMode(".INC\t\"y.inc\" \n.LIB\t\"x.lib\" \n"));
 }
 
 TEST_F(IncludeList, IsRewrittenOnDestructionEvenWhenNothingChanged) {
   opened(".lib \"x.lib\"\n").setVariantsUpdated(false);
   profile_.reset();
-  EXPECT_EQ(contentOf(listPath()), ".LIB\t\"x.lib\" \n");
+  EXPECT_EQ(contentOf(listPath()), inTextMode(".LIB\t\"x.lib\" \n"));
 }
 
 TEST_F(IncludeList, ThatIsGoneIsWrittenAnewOnDestruction) {

@@ -1,4 +1,5 @@
 #include "tests/model/ModelTree.h"
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 namespace {
@@ -207,9 +208,10 @@ TEST_F(FileSync, CarriesTheSimFileAndRewritesItsReferences) {
   EXPECT_EQ(sync(), 0U);
   EXPECT_EQ(snapshot(),
             (Snapshot{{"amp-TOP-old.sim", old},
-                      {"amp-TOP-new.sim", "ProfileName = \"old\"\n"
-                                          "NetlistFile= \"amp-TOP-new.sim.cir\" \n"
-                                          " ProjectFile = \"y\"\nProjectFile= \"prj.tvp\" \n"}}));
+                      {"amp-TOP-new.sim",
+                       inTextMode("ProfileName = \"old\"\n"
+                                  "NetlistFile= \"amp-TOP-new.sim.cir\" \n"
+                                  " ProjectFile = \"y\"\nProjectFile= \"prj.tvp\" \n")}}));
 }
 
 TEST_F(FileSync, RewritesASimFileThatIsThereAndNeverReplacesIt) {
@@ -217,7 +219,7 @@ TEST_F(FileSync, RewritesASimFileThatIsThereAndNeverReplacesIt) {
   file("amp-TOP-new.sim", "ProfileName = \"new\"\nNetlistFile\n");
   EXPECT_EQ(sync(), 0U);
   EXPECT_EQ(contentOf(place("amp-TOP-new.sim")),
-            "ProfileName = \"new\"\nNetlistFile= \"amp-TOP-new.sim.cir\" \n");
+            inTextMode("ProfileName = \"new\"\nNetlistFile= \"amp-TOP-new.sim.cir\" \n"));
 }
 
 TEST_F(FileSync, WithoutABackupSkipsTheRewriteAndGoesOn) {
@@ -255,8 +257,9 @@ TEST_F(FileSync, OntoItselfRewritesTheReferencesAndKeepsTheFiles) {
   EXPECT_EQ(
       profile_->syncUpProfileFiles(text(place("amp-TOP-new.sim")), text(place("amp-TOP-new.sim"))),
       0U);
-  EXPECT_EQ(snapshot(), (Snapshot{{"amp-TOP-new.sim", "NetlistFile= \"amp-TOP-new.sim.cir\" \n"},
-                                  {"amp-TOP-new.dat", "data"}}));
+  EXPECT_EQ(snapshot(),
+            (Snapshot{{"amp-TOP-new.sim", inTextMode("NetlistFile= \"amp-TOP-new.sim.cir\" \n")},
+                      {"amp-TOP-new.dat", "data"}}));
 }
 
 TEST_F(FileSync, OfPathsTooShortForAnEndingLosesNothing) {

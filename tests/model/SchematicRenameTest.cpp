@@ -1,5 +1,6 @@
 #include "tests/model/ModelTree.h"
 #include "tests/support/ProjectBuilder.h"
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 namespace {
@@ -111,8 +112,8 @@ TEST_F(SchematicRename, OutsideSimulationTakesProfilesAndFilesAlong) {
   EXPECT_EQ(pathOf(tran), place("amp-NEW-tran.sim"));
   EXPECT_EQ(got(tran, &CTervixProfile::getVariantFilePath), place("tran_profile.inc"));
   EXPECT_EQ(contentOf(place("amp-NEW-tran.sim")),
-            "ProfileName = \"tran\"\nNetlistFile= \"amp-NEW-tran.sim.cir\" \n"
-            "ProjectFile= \"prj.tvp\" \n");
+            inTextMode("ProfileName = \"tran\"\nNetlistFile= \"amp-NEW-tran.sim.cir\" \n"
+                       "ProjectFile= \"prj.tvp\" \n"));
   EXPECT_EQ(contentOf(place("amp-NEW-tran.dat")), "data");
   EXPECT_EQ(contentOf(place("amp-NEW-tran.sim.cir")), "netlist");
   EXPECT_EQ(snapshot().size(), 6U); // the old ones stay, no backup does

@@ -1,6 +1,7 @@
 #include "CTervixSchematic.h"
 
 #include "tests/model/ModelTree.h"
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 namespace {
@@ -217,7 +218,7 @@ TEST_F(Schematic, SavesAndLoadsTheListsOfAllItsProfiles) {
   for (CTervixProfile* profile : {&tran, &ac})
     profile->addProfileLevelFile(text("x.lib"), VARIANTFILE_TYPE_LIBRARY, true, false);
   EXPECT_EQ(top.writeVariants(), 0U);
-  EXPECT_EQ(contentOf(topFolder() + "/ac/ac_profile.inc"), ".LIB\t\"x.lib\" \n");
+  EXPECT_EQ(contentOf(topFolder() + "/ac/ac_profile.inc"), inTextMode(".LIB\t\"x.lib\" \n"));
   writeFile(topFolder() + "/ac/ac_profile.inc", ".LIB \"y.lib\"\n");
   EXPECT_EQ(top.readVariants(), 0U);
   std::string file;
@@ -230,7 +231,7 @@ TEST_F(Schematic, DestroyedDestroysItsProfiles) {
   file("prj-TervixFiles/TOP/tran/tran_profile.inc", ".lib \"x.lib\"\n");
   addProfile("tran");
   top_.reset();
-  EXPECT_EQ(contentOf(topFolder() + "/tran/tran_profile.inc"), ".LIB\t\"x.lib\" \n");
+  EXPECT_EQ(contentOf(topFolder() + "/tran/tran_profile.inc"), inTextMode(".LIB\t\"x.lib\" \n"));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/LastErrorCheck.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace tervix::testing {
@@ -31,12 +32,13 @@ protected:
 
 TEST_F(SimFileRewrite, ReplacesKeyLinesOnly) {
   EXPECT_EQ(rewritten("ProfileName = \"a\"\nNetlistFile = \"old.cir\"\nProjectFile=x\ntail"),
-            "ProfileName = \"a\"\nNetlistFile= \"new.cir\" \nProjectFile= \"new.tvp\" \ntail");
+            inTextMode(
+                "ProfileName = \"a\"\nNetlistFile= \"new.cir\" \nProjectFile= \"new.tvp\" \ntail"));
 }
 
 TEST_F(SimFileRewrite, WritesTheKeyInItsOwnForm) {
   EXPECT_EQ(rewritten("netlistfile \"old\"\nPROJECTFILE\n"),
-            "NetlistFile= \"new.cir\" \nProjectFile= \"new.tvp\" \n");
+            inTextMode("NetlistFile= \"new.cir\" \nProjectFile= \"new.tvp\" \n"));
 }
 
 TEST_F(SimFileRewrite, CopiesALineWithBlanksBeforeTheKey) {
@@ -46,11 +48,11 @@ TEST_F(SimFileRewrite, CopiesALineWithBlanksBeforeTheKey) {
 
 TEST_F(SimFileRewrite, ReplacesEveryLineOfAKey) {
   EXPECT_EQ(rewritten("NetlistFile=1\nNetlistFile=2\n"),
-            "NetlistFile= \"new.cir\" \nNetlistFile= \"new.cir\" \n");
+            inTextMode("NetlistFile= \"new.cir\" \nNetlistFile= \"new.cir\" \n"));
 }
 
 TEST_F(SimFileRewrite, EndsAReplacedLastLine) {
-  EXPECT_EQ(rewritten("NetlistFile = \"old\""), "NetlistFile= \"new.cir\" \n");
+  EXPECT_EQ(rewritten("NetlistFile = \"old\""), inTextMode("NetlistFile= \"new.cir\" \n"));
 }
 
 TEST_F(SimFileRewrite, KeepsEveryOtherByte) {
@@ -67,12 +69,13 @@ TEST_F(SimFileRewrite, TakesALineOfAnyLengthForOneLine) {
   const std::string inside = padding + "NetlistFile=\"stays\"\n";
   EXPECT_EQ(rewritten(inside), inside);
   EXPECT_EQ(rewritten("NetlistFile=\"" + std::string(5000, 'y') + "\"\nnext\n"),
-            "NetlistFile= \"new.cir\" \nnext\n");
+            inTextMode("NetlistFile= \"new.cir\" \nnext\n"));
 }
 
 TEST_F(SimFileRewrite, LeavesNoBackup) {
   rewrite("NetlistFile=1\n");
-  EXPECT_EQ(snapshotOf(folder_.path()), (Snapshot{{"a.sim", "NetlistFile= \"new.cir\" \n"}}));
+  EXPECT_EQ(snapshotOf(folder_.path()),
+            (Snapshot{{"a.sim", inTextMode("NetlistFile= \"new.cir\" \n")}}));
 }
 
 TEST_F(SimFileRewrite, LeavesABackupThatWasThereBefore) {
@@ -99,7 +102,7 @@ TEST_F(SimFileRewrite, OfAMissingFileCannotBeBackedUp) {
 TEST_F(SimFileRewrite, WritesOddValuesAsTheyAre) {
   const std::string path = folder_.file("a.sim", "NetlistFile=1\n");
   EXPECT_EQ(rewriteSimKeys(path, {{"NetlistFile", "50%s%n\xC3\xA4"}}), 0U);
-  EXPECT_EQ(contentOf(path), "NetlistFile= \"50%s%n\xC3\xA4\" \n");
+  EXPECT_EQ(contentOf(path), inTextMode("NetlistFile= \"50%s%n\xC3\xA4\" \n"));
 }
 
 } // namespace

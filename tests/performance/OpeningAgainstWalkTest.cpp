@@ -2,9 +2,9 @@
 #include <set>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "tests/performance/PlainWalk.h"
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 namespace {
@@ -44,7 +44,7 @@ protected:
       return;
     case 2:
       fs::create_directories(fs::path(folder_.path(sim)).parent_path());
-      ASSERT_EQ(mkfifo(folder_.path(sim).c_str(), 0600), 0);
+      ASSERT_TRUE(makePipe(folder_.path(sim)));
       return;
     case 3:
       folder_.file(sim);

@@ -1,4 +1,3 @@
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <functional>
@@ -6,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/project/LayoutTest.h"
+#include "tests/support/System.h"
 
 // Projects whose files are damaged, misleading or no files at all. None of this may crash, hang or
 // change a file.
@@ -28,7 +28,7 @@ void PrintTo(const Obstacle& obstacle, std::ostream* stream) {
 const Obstacle kObstacles[] = {
     {"Nothing", [](const std::string&) {}},
     {"Folder", [](const std::string& path) { fs::create_directories(path); }},
-    {"Pipe", [](const std::string& path) { ASSERT_EQ(mkfifo(path.c_str(), 0600), 0); }},
+    {"Pipe", [](const std::string& path) { ASSERT_TRUE(makePipe(path)); }},
     {"LinkLoop", [](const std::string& path) { fs::create_symlink(path, path); }},
     {"LinkToNothing", [](const std::string& path) { fs::create_symlink("/nowhere/x", path); }},
     {"LinkToDevice", [](const std::string& path) { fs::create_symlink("/dev/zero", path); }}};

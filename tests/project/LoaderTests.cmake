@@ -23,7 +23,8 @@ function(tervix_add_reader_stub folder type name source)
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME ${name} LIBRARY_OUTPUT_DIRECTORY ${stub_folder}/${folder})
   target_link_libraries(${target} PRIVATE tvx_wobj_header tervix_warnings)
-  target_compile_definitions(${target} PRIVATE ${ARGN})
+  target_compile_definitions(${target} PRIVATE
+    "STUB_EXPORT=__attribute__((visibility(\"default\")))" ${ARGN})
   add_dependencies(tervix_loader_tests ${target})
 endfunction()
 function(tervix_add_design_reader_stub folder entry ending)

@@ -1,4 +1,3 @@
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -7,6 +6,7 @@
 
 #include "project/ProjectReaders.h"
 #include "tests/project/OpenedProject.h"
+#include "tests/support/System.h"
 
 // What is read from project file, design file and folders.
 
@@ -147,7 +147,7 @@ TEST_F(DesignOfProject, IsNoneWhenItIsNoFile) {
   const std::string path = folder.folder("P/amp.dsn");
   expectNoDesign();
   fs::remove(path);
-  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(path));
   expectNoDesign();
   fs::remove(path);
   fs::create_symlink(path, path);
@@ -309,7 +309,7 @@ TEST_F(ProfilesOfProject, NeedAProfilesFolderThatCanBeOpened) {
   EXPECT_EQ(lastError(),
             "10103 Failed to open directory \"" + path + "\". Check its existence on the disk.");
   fs::remove(path);
-  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(path));
   EXPECT_EQ(read(FRONTEND_ID_PROJECT_FILE, PROJECT_TYPE_SIMULATION), 10103u);
 }
 

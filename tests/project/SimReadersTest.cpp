@@ -1,5 +1,3 @@
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -7,6 +5,7 @@
 
 #include "model/SimFile.h"
 #include "tests/project/OpenedProject.h"
+#include "tests/support/System.h"
 
 // What is read from the text of a ".sim" file.
 
@@ -168,7 +167,7 @@ TEST_F(SimReaders, MissAFolderAPipeAndALoop) {
   std::filesystem::create_directory(path);
   EXPECT_EQ(readNames(), 10104u);
   std::filesystem::remove(path);
-  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(path));
   EXPECT_EQ(readNames(), 10104u);
   std::filesystem::remove(path);
   std::filesystem::create_symlink(path, path);
@@ -192,13 +191,10 @@ TEST_F(SimReaders, FollowALinkToAFile) {
 
 TEST_F(SimReaders, TellAFileThatTheSystemCannotOpen) {
   write("ProfileName = \"tran\"\nRootSchematics = \"TOP\"\n");
-  rlimit before{};
-  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
-  rlimit none = before;
-  none.rlim_cur = 0;
-  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-  const unsigned long status = readNames();
-  setrlimit(RLIMIT_NOFILE, &before);
+  const unsigned long status = [this] {
+    const NoFreeDescriptor none;
+    return readNames();
+  }();
   EXPECT_EQ(status, 10105u);
   EXPECT_EQ(lastError(), "10105 Failed to open file \"" + path +
                              "\" for reading. Check its access permissions and existence on the "

@@ -3,33 +3,27 @@
 
 #include "ZelDsnReader.h"
 
-#include <dlfcn.h>
+#include "tests/support/System.h"
 
 #include <stdexcept>
 
 // The design reader, loaded and looked up by name.
 class DesignReader {
 public:
-  DesignReader() : library_(dlopen(DESIGN_READER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
-    if (library_ == nullptr) {
-      throw std::runtime_error(dlerror());
-    }
-    getDsnInfo_ = reinterpret_cast<decltype(&getDsnInfo)>(dlsym(library_, "getDsnInfo"));
+  DesignReader() {
     if (getDsnInfo_ == nullptr) {
-      throw std::runtime_error(dlerror());
+      throw std::runtime_error("no design reader in " DESIGN_READER_LIBRARY);
     }
   }
-  ~DesignReader() { dlclose(library_); }
-  DesignReader(const DesignReader&) = delete;
-  DesignReader& operator=(const DesignReader&) = delete;
 
   int read(const std::string& file, std::string& root, std::list<std::string>& schematics) const {
     return getDsnInfo_(file, root, schematics);
   }
 
 private:
-  void* library_;
-  decltype(&getDsnInfo) getDsnInfo_ = nullptr;
+  using Read = int(const std::string&, std::string&, std::list<std::string>&);
+  tervix::testing::LoadedLibrary library_{DESIGN_READER_LIBRARY};
+  Read* getDsnInfo_ = library_.entryPoint<Read>("getDsnInfo");
 };
 
 #endif

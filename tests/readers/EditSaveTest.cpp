@@ -2,11 +2,8 @@
 
 #include "EditFixture.h"
 
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "tests/support/System.h"
 
-#include <csignal>
 #include <sstream>
 
 namespace {
@@ -23,26 +20,6 @@ std::size_t filesIn(const std::string& folder) {
   return static_cast<std::size_t>(
       std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
-
-// Files cannot grow beyond this while it lives, as on a full disk.
-class FullDisk {
-public:
-  explicit FullDisk(rlim_t size) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &limit_);
-    const rlimit small{size, limit_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &limit_);
-    std::signal(SIGXFSZ, signal_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-  rlimit limit_{};
-  void (*signal_)(int);
-};
 
 class EditSaveTest : public EditFixture {
 protected:
@@ -77,25 +54,21 @@ TEST_F(EditSaveTest, EditsGoOnAfterASave) {
 
 TEST_F(EditSaveTest, WithoutAChangeTheFileIsNotTouched) {
   EditableFile file = opened("[s]\nf = ['x']\n");
-  struct stat before {};
-  ASSERT_EQ(stat(path.c_str(), &before), 0);
+  const auto before = tervix::testing::fileNumber(path);
   EXPECT_TRUE(file.addToList("s", "f", "y"));
   EXPECT_TRUE(file.removeFromList("s", "f", "y"));
   EXPECT_TRUE(file.save());
-  struct stat after {};
-  ASSERT_EQ(stat(path.c_str(), &after), 0);
-  EXPECT_EQ(after.st_ino, before.st_ino);
+  EXPECT_EQ(tervix::testing::fileNumber(path), before);
 }
 
 TEST_F(EditSaveTest, PermissionsStay) {
-  for (const mode_t mode : {0640U, 0600U, 0666U, 0755U}) {
+  for (const fs::perms mode :
+       {fs::perms(0640), fs::perms(0600), fs::perms(0666), fs::perms(0755)}) {
     EditableFile file = opened("[s]\n");
-    ASSERT_EQ(chmod(path.c_str(), mode), 0);
+    fs::permissions(path, mode);
     EXPECT_TRUE(file.setText("s", "a", "1"));
     EXPECT_TRUE(file.save());
-    struct stat status {};
-    ASSERT_EQ(stat(path.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777U, mode);
+    EXPECT_EQ(fs::status(path).permissions(), mode);
     fs::remove(path);
   }
 }
@@ -132,8 +105,8 @@ TEST_F(EditSaveTest, FullDiskLeavesTheFile) {
   const std::string before = "# " + std::string(20000, 'c') + "\n[s]\n";
   EditableFile file = opened(before);
   EXPECT_TRUE(file.setText("s", "a", "1"));
-  for (const rlim_t size : {rlim_t{0}, rlim_t{100}, rlim_t{before.size()}}) {
-    const FullDisk disk(size);
+  for (const std::size_t size : {std::size_t{0}, std::size_t{100}, std::size_t{before.size()}}) {
+    const tervix::testing::FullDisk disk(size);
     expectSaveRefused(file,
                       "the new text cannot be written to the file's folder; the file is as it was");
   }
@@ -162,26 +135,26 @@ TEST_F(EditSaveTest, FileThatIsGoneIsNotMadeAgain) {
 TEST_F(EditSaveTest, FileThatMayNotBeWritten) {
   EditableFile file = opened("[s]\n");
   EXPECT_TRUE(file.setText("s", "a", "1"));
-  ASSERT_EQ(chmod(path.c_str(), 0444), 0);
-  ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
-  const bool wasRoot = geteuid() == 0;
-  ASSERT_TRUE(!wasRoot || seteuid(65534) == 0);
-  expectSaveRefused(file, "the file cannot be opened for writing");
-  ASSERT_TRUE(!wasRoot || seteuid(0) == 0);
+  fs::permissions(path, fs::perms(0444));
+  fs::permissions(folder.path(), fs::perms(0777));
+  {
+    const tervix::testing::UnprivilegedUser user;
+    expectSaveRefused(file, "the file cannot be opened for writing");
+  }
   EXPECT_EQ(contentOf(path), "[s]\n");
 }
 
 TEST_F(EditSaveTest, FolderThatMayNotBeWritten) {
   EditableFile file = opened("[s]\n");
   EXPECT_TRUE(file.setText("s", "a", "1"));
-  ASSERT_EQ(chmod(path.c_str(), 0666), 0);
-  ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
-  const bool wasRoot = geteuid() == 0;
-  ASSERT_TRUE(!wasRoot || seteuid(65534) == 0);
-  expectSaveRefused(file,
-                    "the new text cannot be written to the file's folder; the file is as it was");
-  ASSERT_TRUE(!wasRoot || seteuid(0) == 0);
-  ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+  fs::permissions(path, fs::perms(0666));
+  fs::permissions(folder.path(), fs::perms(0555));
+  {
+    const tervix::testing::UnprivilegedUser user;
+    expectSaveRefused(file,
+                      "the new text cannot be written to the file's folder; the file is as it was");
+  }
+  fs::permissions(folder.path(), fs::perms(0755));
   EXPECT_EQ(contentOf(path), "[s]\n");
 }
 

@@ -2,8 +2,7 @@
 
 #include "ReaderFixture.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
+#include "tests/support/System.h"
 
 namespace {
 
@@ -14,22 +13,6 @@ protected:
     expectUntouchedOutputs();
     expectMistake(message, 0, 0);
   }
-};
-
-// Root may read every file, so tests of permissions run as nobody.
-class AsNobody {
-public:
-  AsNobody() : wasRoot_(geteuid() == 0 && seteuid(65534) == 0) {}
-  ~AsNobody() {
-    if (wasRoot_ && seteuid(0) != 0) {
-      abort();
-    }
-  }
-  AsNobody(const AsNobody&) = delete;
-  AsNobody& operator=(const AsNobody&) = delete;
-
-private:
-  bool wasRoot_;
 };
 
 TEST_F(FileKindTest, MissingFile) {
@@ -45,7 +28,7 @@ TEST_F(FileKindTest, Folder) {
 
 TEST_F(FileKindTest, PipeDoesNotBlock) {
   const std::string pipe = folder.path("pipe.tvp");
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  ASSERT_TRUE(tervix::testing::makePipe(pipe));
   expectRefused(pipe, "this is not a regular file");
 }
 
@@ -59,25 +42,25 @@ TEST_F(FileKindTest, NameTooLong) {
 
 TEST_F(FileKindTest, FileThatMayNotBeRead) {
   const std::string file = folder.write("p.tvp", "");
-  ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
-  ASSERT_EQ(chmod(file.c_str(), 0), 0);
-  const AsNobody nobody;
+  std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+  std::filesystem::permissions(file, std::filesystem::perms(0));
+  const tervix::testing::UnprivilegedUser nobody;
   expectRefused(file, "the file cannot be opened for reading");
 }
 
 TEST_F(FileKindTest, FolderThatMayNotBeEntered) {
   const std::string file = folder.write("p.tvp", "");
-  ASSERT_EQ(chmod(folder.path().c_str(), 0), 0);
+  std::filesystem::permissions(folder.path(), std::filesystem::perms(0));
   {
-    const AsNobody nobody;
+    const tervix::testing::UnprivilegedUser nobody;
     expectRefused(file, "the file cannot be reached");
   }
-  ASSERT_EQ(chmod(folder.path().c_str(), 0700), 0);
+  std::filesystem::permissions(folder.path(), std::filesystem::perms(0700));
 }
 
 TEST_F(FileKindTest, FileThatFailsWhileItIsRead) {
   const std::string memory = "/proc/self/mem";
-  if (access(memory.c_str(), R_OK) != 0) {
+  if (!std::ifstream(memory)) {
     GTEST_SKIP() << "this system has no such file";
   }
   expectRefused(memory, "the file cannot be read to its end");

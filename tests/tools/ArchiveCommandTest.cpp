@@ -2,13 +2,9 @@
 #include <filesystem>
 #include <set>
 
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/ChangedSample.h"
 #include "tests/tools/Sample.h"
@@ -238,14 +234,9 @@ TEST_F(ArchiveOfFolders, DoesNotFollowLinksInCircles) {
 }
 
 TEST_F(ArchiveOfFolders, PassesOverWhatIsNoFileAndTells) {
-  ASSERT_EQ(mkfifo(inFiles("TOP/pipe.dat").c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(inFiles("TOP/pipe.dat")));
   fs::create_symlink("nowhere", inFiles("TOP/lost"));
-  const int file = socket(AF_UNIX, SOCK_STREAM, 0);
-  sockaddr_un address = {};
-  address.sun_family = AF_UNIX;
-  inFiles("TOP/s").copy(address.sun_path, sizeof(address.sun_path) - 1);
-  ASSERT_EQ(bind(file, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
-  close(file);
+  ASSERT_TRUE(makeSocket(inFiles("TOP/s")));
   const ToolRun done = run();
   expectDone(done);
   for (const char* name : {"TOP/pipe.dat", "TOP/s"})

@@ -59,7 +59,8 @@ protected:
 INSTANTIATE_TEST_SUITE_P(All, FailingArchive, ::testing::Range(0, 4), layoutName);
 
 TEST_P(FailingArchive, IsRefusedInTheProjectsFolder) {
-  const std::string simFolder = fs::path(copy_.path(sample().others.front())).parent_path();
+  const std::string simFolder =
+      fs::path(copy_.path(sample().others.front())).parent_path().generic_string();
   const auto inside = "lies in the project's own folder";
   expectRefused(projectFolder(), inside);
   expectRefused(projectFolder() + "/new", inside);
@@ -130,7 +131,7 @@ TEST_P(FailingArchive, IsTakenBackWhicheverFileCannotBeCopied) {
   const std::set<std::string> opened = {".tvp", ".dsn", ".sim"};
   int tried = 0;
   for (const auto& [name, content] : snapshotOf(copy_.folder())) {
-    if (opened.count(fs::path(name).extension()) != 0 || contains(name, "_profile.inc") ||
+    if (opened.count(fs::path(name).extension().string()) != 0 || contains(name, "_profile.inc") ||
         copy_.path(name).rfind(projectFolder(), 0) != 0)
       continue;
     fs::remove(copy_.path(name));

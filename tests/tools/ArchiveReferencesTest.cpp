@@ -1,10 +1,9 @@
 #include <filesystem>
 #include <functional>
 
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/ChangedSample.h"
 #include "tests/tools/Sample.h"
@@ -179,7 +178,7 @@ TEST_P(ArchivedReferences, LeadIntoTheArchiveAlsoWhereAFileIsMissing) {
 
 TEST_P(ArchivedReferences, TellOfFoldersAndFifosInPlaceOfAFile) {
   fs::create_directories(beside_ + "/models/x.lib");
-  ASSERT_EQ(mkfifo((beside_ + "/models/y.lib").c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(beside_ + "/models/y.lib"));
   nameLibrary("\"" + beside_ + "/models/x.lib\", \"" + beside_ + "/models/y.lib\"");
   const ToolRun run = archiveIt();
   EXPECT_TRUE(contains(run.output, "folder  " + beside_ + "/models/x.lib: is a folder"))

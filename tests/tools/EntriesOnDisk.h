@@ -1,16 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
-
-#include <sys/stat.h>
 
 namespace tervix::testing {
 
 // All of an entry on disk that writing to it, or replacing it, would change.
 struct EntryOnDisk {
-  ino_t number;
-  mode_t mode;
+  std::uint64_t number;
+  std::uint32_t mode;
   std::string written;
   std::string changed;
   std::string content;
@@ -20,6 +19,9 @@ struct EntryOnDisk {
            a.changed == b.changed && a.content == b.content;
   }
 };
+
+// Of the entry itself, also if it is a link.
+EntryOnDisk entryAt(const std::string& path);
 
 using EntriesOnDisk = std::map<std::string, EntryOnDisk>;
 

@@ -1,11 +1,10 @@
 #include <array>
 #include <filesystem>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "tests/support/ProjectBuilder.h"
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/JsonKeys.h"
 #include "tests/tools/Sample.h"
@@ -38,11 +37,6 @@ std::vector<std::string> namesOf(const Json& list) {
   for (const Json& element : list)
     names.push_back(element["name"]);
   return names;
-}
-
-void setModified(const std::string& file, time_t seconds) {
-  const std::array<timespec, 2> times = {{{seconds, 0}, {seconds, 999999999}}};
-  ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times.data(), 0), 0) << file;
 }
 
 constexpr time_t kMorning = 1772357400; // 2026-03-01T09:30:00Z
@@ -94,9 +88,11 @@ TEST_P(FilesOfSample, AreThoseThatShowKnows) {
 }
 
 TEST_P(FilesOfSample, HaveTheSizeAndTimeOnDisk) {
-  for (const auto& entry : fs::recursive_directory_iterator(copy_.folder()))
-    if (entry.is_regular_file())
-      setModified(entry.path().string(), kMorning);
+  for (const auto& entry : fs::recursive_directory_iterator(copy_.folder())) {
+    if (!entry.is_regular_file())
+      continue;
+    ASSERT_TRUE(setModified(entry.path().string(), kMorning));
+  }
   const Json listing = filesAsJson({copy_.project()});
   std::size_t there = 0;
   for (const char* kind : {"schematics", "profiles"})
@@ -151,7 +147,7 @@ TEST_P(FilesOfSample, StayAsTheyAre) {
 TEST(FilesCommand, PrintsATable) {
   const SampleCopy copy(allSamples().at(1));
   for (const char* file : {"amp-TOP-ac.dat", "amp-TOP-ac.out", "amp-TOP-ac.sim.cir"})
-    setModified(copy.path(file), kMorning);
+    ASSERT_TRUE(setModified(copy.path(file), kMorning));
   const ToolRun run = files({copy.project(), "--profile", "ac"});
   EXPECT_EQ(run.errors, "");
   EXPECT_EQ(run.output, "profile TOP-ac\n"
@@ -196,7 +192,7 @@ TEST(FilesCommand, GivesTimesOfAnyYear) {
       {1709251200, "2024-03-01T00:00:00Z"}, {4107542399, "2100-02-28T23:59:59Z"},
       {4107542400, "2100-03-01T00:00:00Z"}, {1798761599, "2026-12-31T23:59:59Z"}};
   for (const auto& [seconds, text] : times) {
-    setModified(copy.path("amp-TOP-ac.dat"), seconds);
+    ASSERT_TRUE(setModified(copy.path("amp-TOP-ac.dat"), seconds));
     const Json listing = filesAsJson({copy.project(), "--profile", "ac"});
     EXPECT_EQ(listing["profiles"][0]["files"][1]["modified"], text);
   }
@@ -204,7 +200,7 @@ TEST(FilesCommand, GivesTimesOfAnyYear) {
 
 TEST(FilesCommand, TellsTimesInUtcWhateverTheZone) {
   const SampleCopy copy(allSamples().at(1));
-  setModified(copy.path("amp-TOP-ac.dat"), kMorning);
+  ASSERT_TRUE(setModified(copy.path("amp-TOP-ac.dat"), kMorning));
   const ToolRun run = runTool({"files", copy.project()}, {"", {{"TZ", "Asia/Tokyo"}}});
   EXPECT_NE(run.output.find("2026-03-01T09:30:00Z  amp-TOP-ac.dat\n"), std::string::npos);
 }
@@ -212,7 +208,7 @@ TEST(FilesCommand, TellsTimesInUtcWhateverTheZone) {
 TEST(FilesCommand, TakesAFolderOrAFifoForNoFile) {
   const SampleCopy copy(allSamples().at(1));
   fs::create_directory(copy.path("amp-TOP-ac.csd"));
-  ASSERT_EQ(mkfifo(copy.path("amp-TOP-ac.mrk").c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(copy.path("amp-TOP-ac.mrk")));
   const std::string text = files({copy.project(), "--profile", "ac"}).output;
   for (const char* line : {"\n  csd           -  -                     amp-TOP-ac.csd\n",
                            "\n  mrk           -  -                     amp-TOP-ac.mrk\n"})

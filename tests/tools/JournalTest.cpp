@@ -1,8 +1,8 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
+#include "foundation/platform/Process.h"
 #include "tests/tools/ChangedSample.h"
 
 // The journal that an interrupted change leaves, and how little it is trusted.
@@ -169,7 +169,7 @@ TEST_F(Journal, LeavesAFileThatWasChangedSince) {
 }
 
 TEST_F(Journal, OfAProcessThatIsRunningIsItsOwn) {
-  json_["process"] = getpid();
+  json_["process"] = tervix::platform::processNumber();
   write();
   expectRefused();
 }

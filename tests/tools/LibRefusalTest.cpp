@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/posix/FailingSystem.h"
+#include "tests/support/System.h"
 #include "tests/tools/ChangedSample.h"
 
 // What `tervix lib` refuses. Nothing is touched then.

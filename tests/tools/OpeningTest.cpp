@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/tools/Sample.h"
 #include "tests/tools/ToolRun.h"
 
@@ -43,7 +44,7 @@ TEST_F(OpenedFile, MayBeNamedFromWithinItsFolder) {
 }
 
 TEST_F(OpenedFile, MayBeNamedByARelativePath) {
-  expectSame("sample/amp.tvp", in(fs::path(copy_.folder()).parent_path()));
+  expectSame("sample/amp.tvp", in(fs::path(copy_.folder()).parent_path().string()));
   const std::string below = copy_.path("below");
   fs::create_directory(below);
   expectSame("../amp.tvp", in(below));
@@ -77,6 +78,8 @@ TEST_F(OpenedFile, IsShownWithItsFullPathWhereverTheToolRuns) {
 TEST(OpenedFolder, MayHaveBlanksAndLettersOfAnyAlphabet) {
   for (const char* place :
        {"a  folder", "Verstärker", "усилитель", "増幅器", "quote ' and \"", "50%s"}) {
+    if (!canBeAFileName(place))
+      continue;
     const SampleCopy copy(flat(), place);
     const auto json = shownAsJson({copy.project()});
     EXPECT_EQ(json["folder"], copy.folder());

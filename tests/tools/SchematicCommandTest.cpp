@@ -1,7 +1,6 @@
 #include <filesystem>
 
-#include <sys/stat.h>
-
+#include "tests/support/System.h"
 #include "tests/tools/ChangedSample.h"
 
 // Adding, renaming and deleting schematics from the command line, beyond what every rename keeps.
@@ -62,7 +61,7 @@ TEST_P(ChangedSchematic, TakesEverythingBackWhenAFileCannotBeCopied) {
   const std::string stem = sim.substr(0, sim.size() - 4);
   fs::create_directory_symlink("nowhere", isSimulation() ? stem + "/link.dat" : stem + ".csd");
   // A FIFO cannot be copied; a link can, as a link.
-  ASSERT_EQ(mkfifo((isSimulation() ? stem + "/pipe.dat" : stem + ".prb").c_str(), 0600), 0);
+  ASSERT_TRUE(makePipe(isSimulation() ? stem + "/pipe.dat" : stem + ".prb"));
   const Files before = files();
   const ToolRun run = schematicCommand("rename", {copy_.project(), schematic(), "renamed"});
   expectRefused(run, "The project is as it was.");

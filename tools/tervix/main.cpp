@@ -67,6 +67,7 @@ int answer(const CLI::App& app, const CLI::ParseError& error) {
 
 int run(int argc, char** argv) {
   CLI::App app("Look into and change circuit-simulation projects", "tervix");
+  app.allow_windows_style_options(false); // "/x" and "//server/x" are paths everywhere
   setHelpLayout(app);
   app.set_version_flag("--version", "tervix " TERVIX_VERSION, "Print the version");
   app.require_subcommand(1);

@@ -71,9 +71,29 @@ std::optional<DWORD> attributesToKeep(const std::string& path) {
   if (!file.open(path.c_str(), GENERIC_WRITE, OPEN_EXISTING))
     return std::nullopt;
   const auto status = file.status();
-  if (!isRegularFile(status))
+  if (!isRegularFile(status) || hasAttribute(*status, FILE_ATTRIBUTE_READONLY))
     return std::nullopt;
   return status->dwFileAttributes & kAttributesOfText;
+}
+
+// Whether the file holds this text already, with the line ends of this system or of another. So a
+// project that came from elsewhere stays as it is until something in it changes.
+bool holdsAlready(const std::string& path, std::string_view content) {
+  FileHandle file;
+  if (!file.open(path.c_str(), GENERIC_READ, OPEN_EXISTING))
+    return false;
+  TextReader<FileHandle> text(file);
+  std::array<char, kCopyBlock> block{};
+  for (;;) {
+    const auto count = text.read(block.data(), block.size());
+    if (!count)
+      return false;
+    if (*count == 0)
+      return content.empty();
+    if (content.substr(0, *count) != std::string_view(block.data(), *count))
+      return false;
+    content.remove_prefix(*count);
+  }
 }
 
 } // namespace
@@ -108,6 +128,8 @@ bool replaceFile(const std::string& path, std::string_view content) {
   const auto attributes = attributesToKeep(file);
   if (!attributes)
     return false;
+  if (isTaken(file) && holdsAlready(file, content))
+    return true;
   const std::string written = unusedNameBeside(file);
   if (!writeNewFile(written, withDiskLineEnds(content), *attributes))
     return false;

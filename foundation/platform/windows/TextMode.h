@@ -43,8 +43,8 @@ public:
   // At most size characters, of at least one; nullopt on an error, 0 at the end.
   std::optional<std::size_t> read(char* buffer, std::size_t size) {
     std::size_t count = 0;
-    if (ahead_)
-      buffer[count++] = *std::exchange(ahead_, std::nullopt);
+    if (std::exchange(hasAhead_, false))
+      buffer[count++] = ahead_;
     const auto more = file_.read(buffer + count, size - count);
     if (!more)
       return std::nullopt;
@@ -65,13 +65,14 @@ private:
       return true;
     if (next == '\n')
       last = next;
-    else
-      ahead_ = next;
+    hasAhead_ = next != '\n';
+    ahead_ = next;
     return true;
   }
 
   File& file_;
-  std::optional<char> ahead_; // read from the file already, and not handed out yet
+  bool hasAhead_ = false; // a character was read from the file already, and not handed out yet
+  char ahead_ = '\0';
 };
 
 } // namespace tervix::platform

@@ -47,12 +47,12 @@ TERVIX_IN_EACH_LAYOUT(ForwardingByFile);
 
 TEST_P(ForwardingByFile, SetsDataAndOutputFile) {
   SampleProject amp(GetParam());
-  std::string data = "\\runs\\one.dat";
+  std::string data = fullPath("\\runs\\one.dat");
   std::string output = "one.out";
   EXPECT_EQ(amp->setDatFileForProfile(data, arg(amp.simPath())), 0u);
   EXPECT_EQ(amp->setOutFileForProfile(output, arg(amp.simPath())), 0u);
-  EXPECT_EQ(data, "/runs/one.dat");
-  EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getDatFilePath), "/runs/one.dat");
+  EXPECT_EQ(data, fullPath("/runs/one.dat"));
+  EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getDatFilePath), fullPath("/runs/one.dat"));
   EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getOutFilePath), amp.folderOf() + "/one.out");
   std::string none;
   EXPECT_EQ(amp->setDatFileForProfile(none, arg(amp.simPath())), 0u);

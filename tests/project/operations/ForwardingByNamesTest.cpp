@@ -40,11 +40,11 @@ TERVIX_IN_EACH_LAYOUT(ForwardingByNames);
 
 TEST_P(ForwardingByNames, SetsDataAndOutputFile) {
   SampleProject amp(GetParam());
-  std::string data = "\\runs\\one.dat";
+  std::string data = fullPath("\\runs\\one.dat");
   EXPECT_EQ(amp->setDatFileForProfile(data, arg(amp.schematicOf()), arg("TRAN")), 0u);
-  EXPECT_EQ(data, "/runs/one.dat");
+  EXPECT_EQ(data, fullPath("/runs/one.dat"));
   EXPECT_EQ(amp->setOutFileForProfile(arg("one.out"), arg(amp.schematicOf()), arg("tran")), 0u);
-  EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getDatFilePath), "/runs/one.dat");
+  EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getDatFilePath), fullPath("/runs/one.dat"));
   EXPECT_EQ(textOf(amp.profile(), &CTervixProfile::getOutFilePath), amp.folderOf() + "/one.out");
 }
 

@@ -66,8 +66,8 @@ TEST_P(ProfileFiles, AreFoundByTheSimPathInAnySpelling) {
 
 TEST_P(ProfileFiles, LieBesideTheDataFileThatTheProfileTells) {
   SampleProject amp(GetParam());
-  amp.profile().setDatFilePath(arg("/data/run7.dat"));
-  EXPECT_EQ(fileOfType(*amp, "tran", PROFILE_FILE_CSD), (Answer{0, "/data/run7.csd"}));
+  amp.profile().setDatFilePath(arg(fullPath("/data/run7.dat")));
+  EXPECT_EQ(fileOfType(*amp, "tran", PROFILE_FILE_CSD), (Answer{0, fullPath("/data/run7.csd")}));
 }
 
 TEST_P(ProfileFiles, OfAPathThatIsNotInTheTreeLieInItsPlace) {

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/project/LayoutTest.h"
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 
@@ -35,7 +36,13 @@ public:
 
   const TemporaryFolder& disk() const { return folder_; }
   std::string path(const std::string& name) const { return folder_.path(name); }
-  std::map<std::string, std::string> snapshot() const { return snapshotOf(folder_.path()); }
+  // Contents are taken as text: what the library rewrites has the line ends of the system.
+  std::map<std::string, std::string> snapshot() const {
+    auto files = snapshotOf(folder_.path());
+    for (auto& [name, content] : files)
+      content = asText(content);
+    return files;
+  }
 
   const std::string& file() const { return file_; }
   std::string folder() const { return file_.substr(0, file_.rfind('/')); }

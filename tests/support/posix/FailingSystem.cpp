@@ -1,13 +1,10 @@
 #include "tests/support/posix/FailingSystem.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <string_view>
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
-#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -51,23 +48,6 @@ extern "C" int rename(const char* from, const char* to) noexcept {
 
 namespace tervix::testing {
 
-ResourceLimit::ResourceLimit(__rlimit_resource resource, rlim_t limit) : resource_(resource) {
-  EXPECT_EQ(getrlimit(resource_, &former_), 0);
-  const rlimit lowered{limit, former_.rlim_max};
-  EXPECT_EQ(setrlimit(resource_, &lowered), 0);
-}
-
-ResourceLimit::~ResourceLimit() {
-  EXPECT_EQ(setrlimit(resource_, &former_), 0);
-}
-
-FullDisk::FullDisk(rlim_t bytes)
-    : limit_(RLIMIT_FSIZE, bytes), formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {}
-
-FullDisk::~FullDisk() {
-  std::signal(SIGXFSZ, formerHandler_);
-}
-
 UndeletableFile::UndeletableFile(std::string path) {
   undeletable() = std::move(path);
 }
@@ -80,26 +60,6 @@ SeparateDevice::SeparateDevice(std::string folder) {
 }
 SeparateDevice::~SeparateDevice() {
   otherDevice().clear();
-}
-
-UnprivilegedUser::UnprivilegedUser() : wasRoot_(geteuid() == 0) {
-  constexpr uid_t kNobody = 65534;
-  if (wasRoot_) {
-    const bool changed = setresuid(kNobody, kNobody, 0) == 0;
-    EXPECT_TRUE(changed || errno == EINVAL);
-  }
-}
-
-UnprivilegedUser::~UnprivilegedUser() {
-  if (!wasRoot_)
-    return;
-  EXPECT_EQ(setresuid(0, 0, 0), 0);
-  // Leaving root made the process invisible to the leak checker.
-  prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
-}
-
-bool UnprivilegedUser::isInForce() const {
-  return geteuid() != 0;
 }
 
 } // namespace tervix::testing

@@ -2,43 +2,11 @@
 
 #include <string>
 
-#include <sys/resource.h>
-#include <sys/types.h>
+#include "tests/support/System.h"
 
 namespace tervix::testing {
 
-// Faults of the system, each for as long as an object of its class lives. They work for every
-// user, also for root, to whom no permission is denied.
-
-class ResourceLimit {
-public:
-  ResourceLimit(__rlimit_resource resource, rlim_t limit);
-  ~ResourceLimit();
-  ResourceLimit(const ResourceLimit&) = delete;
-  ResourceLimit& operator=(const ResourceLimit&) = delete;
-
-private:
-  __rlimit_resource resource_;
-  rlimit former_{};
-};
-
-// No file can grow beyond a size.
-class FullDisk {
-public:
-  explicit FullDisk(rlim_t bytes = 0);
-  ~FullDisk();
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-  ResourceLimit limit_;
-  void (*formerHandler_)(int);
-};
-
-// No file or folder can be opened.
-class NoFreeDescriptor {
-  ResourceLimit limit_{RLIMIT_NOFILE, 0};
-};
+// More faults of the system, put in front of calls of the C library.
 
 // Deleting this one file is refused.
 class UndeletableFile {
@@ -56,21 +24,6 @@ public:
   ~SeparateDevice();
   SeparateDevice(const SeparateDevice&) = delete;
   SeparateDevice& operator=(const SeparateDevice&) = delete;
-};
-
-// The process belongs to a user without privileges.
-class UnprivilegedUser {
-public:
-  UnprivilegedUser();
-  ~UnprivilegedUser();
-  UnprivilegedUser(const UnprivilegedUser&) = delete;
-  UnprivilegedUser& operator=(const UnprivilegedUser&) = delete;
-
-  // False where the system does not let root become another user; the test is then skipped.
-  bool isInForce() const;
-
-private:
-  bool wasRoot_;
 };
 
 } // namespace tervix::testing

@@ -51,8 +51,16 @@ void removeFolder(const std::string& path, Remaining remaining) {
     throw Failure(inQuotes(path) + " (" + error.message() + ")");
 }
 
+// The library takes a file whose name has no dot for a folder, and makes one before it finds out.
+void removeFolderInPlaceOf(const ChangePlan::Made& made) {
+  std::error_code ignored;
+  if (fs::is_directory(fs::symlink_status(made.path, ignored)) && fs::is_empty(made.path, ignored))
+    fs::remove(made.path, ignored);
+}
+
 // Brings a new file to what it is to be, whatever the library made of it.
 void complete(const ChangePlan::Made& made) {
+  removeFolderInPlaceOf(made);
   if (!made.isCopy) {
     if (contentOf(made.path) != made.content)
       writeFile(made.path, made.content);
@@ -120,6 +128,7 @@ Left takeFilesBack(const ChangeRecord& record) {
       left.emplace_back(failure.what());
     }
   forEach(record.plan.made, left, [](const ChangePlan::Made& made) {
+    removeFolderInPlaceOf(made);
     if (!isThere(made.path))
       return;
     if (!isMadeByPlan(made))

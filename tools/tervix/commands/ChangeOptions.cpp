@@ -55,14 +55,15 @@ bool settleBefore(const std::vector<std::string>& request, ChangeOptions& option
   return isAskedFor;
 }
 
-void finish(const ChangePlan& planned, const ChangeOptions& options) {
+void finish(const ChangePlan& planned, const ChangeOptions& options,
+            const std::function<void()>& run) {
   ChangePlan plan = planned;
   if (options.keepOld) {
     plan.removed.clear();
     plan.removedFolders.clear();
   }
   if (!options.dryRun)
-    runPlan(plan);
+    run ? run() : runPlan(plan);
   print(plan, options);
 }
 

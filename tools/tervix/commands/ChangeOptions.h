@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,9 @@ void addKeepOldOption(CLI::App& command, ChangeOptions& options);
 // asked for; it is then done, and printed.
 bool settleBefore(const std::vector<std::string>& request, ChangeOptions& options);
 
-// Prints the plan, and unless this is a dry run carries it out first.
-void finish(const ChangePlan& plan, const ChangeOptions& options);
+// Prints the plan, and unless this is a dry run carries it out first, with runPlan or as the
+// command does it.
+void finish(const ChangePlan& plan, const ChangeOptions& options,
+            const std::function<void()>& run = nullptr);
 
 } // namespace tervix::tool

@@ -1,0 +1,34 @@
+#include "tests/tools/ChangedSample.h"
+
+// What a person types on Windows: paths with either separator, with a drive and without.
+
+using namespace tervix::testing;
+
+namespace {
+
+class PathArgument : public ::testing::Test {
+protected:
+  SampleCopy copy_{allSamples().front()};
+  const std::string expected_ = shown({copy_.project()});
+};
+
+std::string withBackslashes(std::string path) {
+  for (char& c : path)
+    c = c == '/' ? '\\' : c;
+  return path;
+}
+
+TEST_F(PathArgument, MayHaveBackslashes) {
+  EXPECT_EQ(shown({withBackslashes(copy_.project())}), expected_);
+}
+
+// The path begins with a slash, as options of some other programs do.
+TEST_F(PathArgument, MayLackTheirDrive) {
+  EXPECT_EQ(shown({copy_.project().substr(2)}, {copy_.folder(), {}}), expected_);
+}
+
+TEST_F(PathArgument, MayBeANetworkPath) {
+  EXPECT_EQ(shown({"//?/" + copy_.project()}), expected_);
+}
+
+} // namespace
