@@ -198,7 +198,7 @@ TEST_F(IncludeList, ThatIsGoneIsWrittenAnewOnDestruction) {
   opened(".LIB\t\"x.lib\" \n").setVariantsUpdated(false);
   std::filesystem::remove(listPath());
   profile_.reset();
-  EXPECT_EQ(contentOf(listPath()), ".LIB\t\"x.lib\" \n");
+  EXPECT_EQ(contentOf(listPath()), inTextMode(".LIB\t\"x.lib\" \n"));
 }
 
 TEST_F(IncludeList, LoadedForAnyOtherProjectLeavesTheListsInPlace) {
