@@ -181,8 +181,6 @@ void CTervixProject::takeProjectFile(std::string& candidate) {
 }
 
 unsigned long CTervixProject::setProjectInfoForSim(std::string& simPath) {
-  // What cannot be told from the file is asked of the folders: that is no failure.
-  const tervix::LastErrorKept kept;
   tervix::SimProjectInfo info;
   const unsigned long status = tervix::readSimProjectInfo(info, simPath);
   if (status == 0) {

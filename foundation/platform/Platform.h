@@ -31,6 +31,7 @@ bool isReadableFile(const std::string& path); // a regular file
 bool isWritableFile(const std::string& path); // a regular file
 bool isFolder(const std::string& path);
 bool isReadableFolder(const std::string& path);
+bool isWritableFolder(const std::string& path); // whether its entries can be made and removed
 
 // Whether two paths lead to one entry on disk, by whatever spelling or link.
 bool isSameEntry(const std::string& a, const std::string& b);

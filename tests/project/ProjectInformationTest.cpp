@@ -132,14 +132,6 @@ protected:
   TemporaryFolder folder;
 };
 
-TEST_F(ProfileInformation, RecordsNoError) {
-  recordOtherError();
-  for (const std::string& path : {folder.path("missing.sim"), folder.file("junk.sim", "junk"),
-                                  folder.file("amp-TOP.aap", "junk")})
-    OpenedProject project(path, 0);
-  EXPECT_EQ(lastError(), kOtherError);
-}
-
 TEST_F(ProfileInformation, OfAnotherProjectTakesTheProjectFileBesideIt) {
   folder.file("P/flt.tvp");
   const std::string path =

@@ -158,8 +158,8 @@ TEST_P(RefusedVariant, IsEveryOneOfAReadOnlyFile) {
     const std::string file = owner == "--design"
                                  ? copy_.project()
                                  : copy_.path(filesNamed(name() + "_profile.inc").front());
-    for (fs::path folder = fs::path(file).parent_path(); folder != fs::temp_directory_path();
-         folder = folder.parent_path())
+    for (fs::path folder = fs::path(file).parent_path();
+         !fs::equivalent(folder, fs::temp_directory_path()); folder = folder.parent_path())
       fs::permissions(folder, fs::perms::all);
     fs::permissions(file, fs::perms(0444));
     const UnprivilegedUser user;

@@ -224,6 +224,26 @@ TEST(ProfileCommand, AsksWhichSchematicIsMeant) {
   expectDone(profile("delete", {copy.project(), "TOP-tran"}));
 }
 
+// Such as a marker file of the schematic, which a profile of that name would have.
+TEST_P(ChangedProfile, DoesNotTakeOverWhatHasANewNameAlready) {
+  const std::string sim = copy_.path(filesNamed(name() + ".sim").front());
+  const std::string stem = sim.substr(0, sim.size() - 4 - name().size());
+  writeFile(stem + (isSimulation() ? "taken/mine.txt" : "taken.csd"), "mine");
+  const Files before = files();
+  for (const char* action : {"rename", "copy"})
+    expectRefused(profile(action, {copy_.project(), name(), "taken"}),
+                  "is there already and would become part of the new profile");
+  EXPECT_EQ(files(), before);
+}
+
+TEST_P(ChangedProfile, OfFrontEnd1GoesWithItsFilesOnly) {
+  if (isFrontEnd2())
+    return;
+  const Files before = files();
+  expectRefused(profile("delete", {copy_.project(), name(), "--keep-old"}), "nothing would change");
+  EXPECT_EQ(files(), before);
+}
+
 TEST(ProfileCommand, KeepsCommentsOfTheProjectFile) {
   const SampleCopy copy(allSamples().at(0));
   std::string expected = contentOf(copy.project());

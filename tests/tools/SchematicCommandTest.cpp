@@ -109,4 +109,15 @@ TEST_F(SimulationSample, CarriesProfilesThatAreNotRegisteredAndUnregistersThoseT
   EXPECT_FALSE(contains(contentOf(copy_.project()), "Supply"));
 }
 
+TEST(SchematicCommand, RenamesARootThatIsNamedInAnotherCase) {
+  const SampleCopy copy(allSamples().at(0));
+  const std::string design = copy.path("amp.dsn");
+  std::string text = contentOf(design);
+  const std::size_t place = text.find("Root = \"TOP\"");
+  ASSERT_NE(place, std::string::npos);
+  writeFile(design, text.replace(place, 12, "Root = \"top\""));
+  EXPECT_EQ(runTool({"schematic", "rename", copy.project(), "TOP", "MAIN"}).status, 0);
+  EXPECT_TRUE(contains(contentOf(design), "Root = \"MAIN\""));
+}
+
 } // namespace

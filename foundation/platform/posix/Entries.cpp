@@ -116,6 +116,10 @@ bool isReadableFolder(const std::string& path) {
   return isOfKind(path, S_IFDIR, R_OK);
 }
 
+bool isWritableFolder(const std::string& path) {
+  return isOfKind(path, S_IFDIR, W_OK | X_OK);
+}
+
 bool isSameEntry(const std::string& a, const std::string& b) {
   const auto first = statusOf(NativePath(a));
   const auto second = statusOf(NativePath(b));

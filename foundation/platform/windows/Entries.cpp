@@ -83,6 +83,10 @@ bool isReadableFolder(const std::string& path) {
   return isFolder(path);
 }
 
+bool isWritableFolder(const std::string& path) {
+  return isFolder(path);
+}
+
 bool isSameEntry(const std::string& a, const std::string& b) {
   return isSameEntry(statusOf(NativePath(a).get()), statusOf(NativePath(b).get()));
 }

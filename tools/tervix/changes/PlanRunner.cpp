@@ -1,5 +1,9 @@
 #include "tools/tervix/changes/PlanRunner.h"
 
+#include <filesystem>
+#include <set>
+
+#include "foundation/platform/Platform.h"
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/FileContent.h"
@@ -10,6 +14,8 @@
 namespace tervix::tool {
 namespace {
 
+namespace fs = std::filesystem;
+
 void refuseTaken(const ChangePlan& plan) {
   for (const ChangePlan::Made& made : plan.made)
     if (isThere(made.path))
@@ -18,6 +24,17 @@ void refuseTaken(const ChangePlan& plan) {
     if (!projectFile.empty() && isThere(journalOf(projectFile)))
       throw Failure(inQuotes(journalOf(projectFile)) +
                     " tells of another change; nothing was changed");
+}
+
+// What is old goes last, when it is too late to refuse.
+void refuseLastingFolders(const ChangePlan& plan) {
+  std::set<std::string> folders;
+  for (const auto& paths : {plan.removed, plan.removedFolders})
+    for (const std::string& path : paths)
+      folders.insert(fs::path(path).parent_path().generic_string());
+  for (const std::string& folder : folders)
+    if (!platform::isWritableFolder(folder))
+      throw Failure("nothing may be removed from " + inQuotes(folder) + "; nothing was changed");
 }
 
 class Runner {
@@ -85,6 +102,7 @@ private:
 
 void runPlan(const ChangePlan& plan) {
   refuseTaken(plan);
+  refuseLastingFolders(plan);
   Runner(plan).run();
 }
 

@@ -51,16 +51,32 @@ void removeFolder(const std::string& path, Remaining remaining) {
     throw Failure(inQuotes(path) + " (" + error.message() + ")");
 }
 
-// The library takes a file whose name has no dot for a folder, and makes one before it finds out.
-void removeFolderInPlaceOf(const ChangePlan::Made& made) {
+// What is new may be read by nobody else than what it comes from, and a copy is as old, by which a
+// front end tells which results are up to date. Some file systems keep neither.
+void takeAttributes(const ChangePlan::Made& made) {
+  if (made.source.empty() || fs::is_symlink(made.path))
+    return;
   std::error_code ignored;
-  if (fs::is_directory(fs::symlink_status(made.path, ignored)) && fs::is_empty(made.path, ignored))
-    fs::remove(made.path, ignored);
+  fs::permissions(made.path, fs::status(made.source).permissions(), ignored);
+  if (made.isCopy || haveSameContent(made.source, made.path))
+    fs::last_write_time(made.path, fs::last_write_time(made.source), ignored);
+}
+
+void takeFolderPermissions(const ChangeRecord& record) {
+  std::set<std::string> left(record.newFolders.begin(), record.newFolders.end());
+  for (const ChangePlan::Made& made : record.plan.made) {
+    fs::path folder = fs::path(made.path).parent_path();
+    fs::path source = fs::path(made.source).parent_path();
+    for (; left.erase(folder.generic_string()) != 0 && !source.empty();
+         folder = folder.parent_path(), source = source.parent_path()) {
+      std::error_code ignored;
+      fs::permissions(folder, fs::status(source).permissions() | fs::perms::owner_all, ignored);
+    }
+  }
 }
 
 // Brings a new file to what it is to be, whatever the library made of it.
 void complete(const ChangePlan::Made& made) {
-  removeFolderInPlaceOf(made);
   if (!made.isCopy) {
     if (contentOf(made.path) != made.content)
       writeFile(made.path, made.content);
@@ -70,6 +86,7 @@ void complete(const ChangePlan::Made& made) {
   } else if (!isThere(made.path) || !haveSameContent(made.source, made.path)) {
     copyFile(made.source, made.path);
   }
+  takeAttributes(made);
 }
 
 void restore(const ChangePlan::Rewritten& file, const ChangeRecord::Former& former) {
@@ -101,6 +118,7 @@ void makeFiles(const ChangeRecord& record, const ChangePlan& plan) {
       plan.progress(made);
     complete(made);
   }
+  takeFolderPermissions(record);
   if (const Left left = removeScratch(record); !left.empty())
     throw Failure(left.front() + " could not be removed");
 }
@@ -128,7 +146,6 @@ Left takeFilesBack(const ChangeRecord& record) {
       left.emplace_back(failure.what());
     }
   forEach(record.plan.made, left, [](const ChangePlan::Made& made) {
-    removeFolderInPlaceOf(made);
     if (!isThere(made.path))
       return;
     if (!isMadeByPlan(made))

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "foundation/platform/Platform.h"
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/FileContent.h"
@@ -62,15 +63,25 @@ std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
   });
 }
 
-// A file or folder that is there already would become the new profile's, and be deleted with it.
-void requireNothingThere(const ProfilePlaces& places, bool hasFolder) {
+std::vector<std::string> allPaths(const ProfilePlaces& places, const ProjectLayout& layout) {
   std::vector<std::string> paths = places.files;
   paths.push_back(places.sim);
-  if (hasFolder)
+  if (layout.isSimulation())
     paths.push_back(places.folder);
-  for (const std::string& path : paths)
-    if (fs::exists(fs::symlink_status(path)))
-      throw Failure(inQuotes(path) + " is there already and would become part of the new profile");
+  return paths;
+}
+
+// A file or folder that is there already would become the new profile's, and be deleted with it.
+// On a disk that ignores case it may be what is renamed.
+void requireNothingThere(const ProjectLayout& layout, const std::string& schematic,
+                         const std::string& name, const std::string& formerName) {
+  const auto paths = allPaths(layout.placesOf(schematic, name), layout);
+  const auto former =
+      formerName.empty() ? paths : allPaths(layout.placesOf(schematic, formerName), layout);
+  for (std::size_t i = 0; i < paths.size(); ++i)
+    if (isThere(paths[i]) && (formerName.empty() || !platform::isSameEntry(paths[i], former[i])))
+      throw Failure(inQuotes(paths[i]) +
+                    " is there already and would become part of the new profile");
 }
 
 // What a profile is called in its ".sim" file decides where the library looks for its files.
@@ -141,7 +152,7 @@ ChangePlan planProfileAdd(CTervixProject& project, const std::string& schematicN
   requireFreeProfileName(schematic, name, "");
   const ProfilePlaces places = layout.placesOf(schematic.name, name);
 
-  requireNothingThere(places, layout.isSimulation());
+  requireNothingThere(layout, schematic.name, name, "");
 
   ChangePlan plan;
   plan.title = "add profile " + name + " to schematic " + schematic.name;
@@ -167,6 +178,7 @@ ChangePlan planProfileCopy(CTervixProject& project, const std::string& schematic
   const auto [schematic, profile] = profileWithFile(copying.view(), schematicName, name);
   requireUsableName(newName, "profile");
   requireFreeProfileName(schematic, newName, "");
+  requireNothingThere(copying.before(), schematic.name, newName, "");
   return copying.planCopy(schematic.name, profile.name, newName,
                           "copy profile " + profile.name + " to " + newName);
 }
@@ -179,6 +191,7 @@ ChangePlan planProfileRename(CTervixProject& project, const std::string& schemat
   if (profile.name == newName)
     throw Failure("the profile is named " + inQuotes(newName) + " already");
   requireFreeProfileName(schematic, newName, profile.name);
+  requireNothingThere(renaming.before(), schematic.name, newName, profile.name);
   renaming.renameProfile(schematic.name, profile.name, newName);
   return renaming.plan("rename profile " + profile.name + " to " + newName);
 }

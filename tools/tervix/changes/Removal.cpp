@@ -29,7 +29,10 @@ void removeFolder(ChangePlan& plan, const std::string& folder) {
       removeFile(plan, entry.path().generic_string());
   }
   std::sort(folders.rbegin(), folders.rend());
-  plan.removedFolders.insert(plan.removedFolders.end(), folders.begin(), folders.end());
+  for (const std::string& inner : folders)
+    if (std::find(plan.removedFolders.begin(), plan.removedFolders.end(), inner) ==
+        plan.removedFolders.end())
+      plan.removedFolders.push_back(inner);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "tools/tervix/changes/Renaming.h"
 
+#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <set>
@@ -37,6 +38,17 @@ void mapAll(PathMap& map, const std::vector<std::string>& from,
             const std::vector<std::string>& to) {
   for (std::size_t i = 0; i < from.size(); ++i)
     map.moveFile(from[i], to[i]);
+}
+
+// The library's copy of a folder takes names with a dot for files and others for folders, and
+// copies what a link leads to.
+bool suitsFolderCopy(const std::string& folder) {
+  const fs::recursive_directory_iterator entries(folder);
+  return std::all_of(begin(entries), end(entries), [](const fs::directory_entry& entry) {
+    const fs::file_type type = entry.symlink_status().type();
+    const bool hasDot = entry.path().filename().string().find('.') != std::string::npos;
+    return type == (hasDot ? fs::file_type::regular : fs::file_type::directory);
+  });
 }
 
 // The library takes the new names from the record and the node. What it does not carry the plan
@@ -109,7 +121,9 @@ void Renaming::renameProfile(const std::string& schematic, const std::string& na
 std::string Renaming::newNameOf(const std::string& schematic) const {
   if (!before_.hasDesignFile())
     return after_.design;
-  const auto changed = schematicNames_.find(schematic);
+  const auto changed =
+      std::find_if(schematicNames_.begin(), schematicNames_.end(),
+                   [&](const auto& names) { return isSameName(names.first, schematic); });
   return changed != schematicNames_.end() ? changed->second : schematic;
 }
 
@@ -301,7 +315,9 @@ void Renaming::planLibraryCalls(ChangePlan& plan) {
     std::string profile = change.profile;
     project_.findProfile(node, schematic, profile);
     // A profile that was never run has no folder to carry along.
-    if (node == nullptr || (before_.isSimulation() && !isThere(from.folder)))
+    const bool isCarried =
+        !before_.isSimulation() || (fs::is_directory(from.folder) && suitsFolderCopy(from.folder));
+    if (node == nullptr || !isCarried)
       continue;
     plan.libraryCalls.emplace_back([node, change, from, newSim] {
       carry(static_cast<CTervixProfile&>(*node), change, from.sim, newSim);

@@ -54,7 +54,7 @@ const std::vector<FindingKind>& findingKinds() {
        "Compare the two, and rename the backup to the original if that is lost."},
       {Code::kInterruptedChange, "interrupted-change", kError,
        "A change was interrupted and left a file of its work behind.",
-       "Compare it with the file that it was to become, then remove it."},
+       "Run a command that changes the project: it settles the change. Remove what is left then."},
       {Code::kKeyDisagrees, "key-disagrees", kWarning,
        "A key of a .sim file names another file than its place says.", "Correct the key."},
       {Code::kRepeatedKey, "repeated-key", kWarning, "A key stands in a .sim file more than once.",

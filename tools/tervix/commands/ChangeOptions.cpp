@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "tools/tervix/Failure.h"
 #include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/Interruption.h"
@@ -61,6 +62,9 @@ void finish(const ChangePlan& planned, const ChangeOptions& options,
   if (options.keepOld) {
     plan.removed.clear();
     plan.removedFolders.clear();
+    if (plan.isEmpty() && !planned.isEmpty())
+      throw Failure("the profiles of front end 1 are those whose files are there: with --keep-old "
+                    "nothing would change");
   }
   if (!options.dryRun)
     run ? run() : runPlan(plan);
