@@ -1,6 +1,6 @@
 #include "tests/tools/ChangedSample.h"
 
-// What a person types on Windows: paths with either separator, with a drive and without.
+// What a person types on Windows: paths with either separator.
 
 using namespace tervix::testing;
 
@@ -20,15 +20,6 @@ std::string withBackslashes(std::string path) {
 
 TEST_F(PathArgument, MayHaveBackslashes) {
   EXPECT_EQ(shown({withBackslashes(copy_.project())}), expected_);
-}
-
-// The path begins with a slash, as options of some other programs do.
-TEST_F(PathArgument, MayLackTheirDrive) {
-  EXPECT_EQ(shown({copy_.project().substr(2)}, {copy_.folder(), {}}), expected_);
-}
-
-TEST_F(PathArgument, MayBeANetworkPath) {
-  EXPECT_EQ(shown({"//?/" + copy_.project()}), expected_);
 }
 
 } // namespace
