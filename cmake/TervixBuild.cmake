@@ -51,6 +51,16 @@ if(WIN32)
   target_link_libraries(tervix_utf8 INTERFACE tervix_narrow_text)
 endif()
 
+# What is fuzzed tells the fuzzer where it has been.
+if(TERVIX_BUILD_FUZZERS)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "TERVIX_BUILD_FUZZERS needs Clang, which has libFuzzer; this is "
+                        "${CMAKE_CXX_COMPILER_ID}. Configure with -DCMAKE_CXX_COMPILER=clang++, "
+                        "as scripts/fuzz does.")
+  endif()
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # A layer of the library: objects that go into the shared library, and that tests of its insides
 # link as they are.
 function(tervix_add_layer name)

@@ -28,13 +28,17 @@ constexpr std::array<EntryForm, 3> kEntryForms = {{
 
 using Lists = std::array<std::vector<std::string>, 3>;
 
+std::vector<std::string>& listOf(Lists& lists, const EntryForm& form) {
+  return lists.at(static_cast<std::size_t>(form.type));
+}
+
 void takeLine(std::string_view line, Lists& lists) {
   for (const EntryForm& form : kEntryForms) {
     if (!tervix::startsWithIgnoringCase(line, form.keyword))
       continue;
     const auto path = tervix::quotedValue(line);
     if (path && tervix::contains(*path, form.requiredInPath))
-      lists[form.type].emplace_back(*path);
+      listOf(lists, form).emplace_back(*path);
     return;
   }
 }
@@ -187,7 +191,7 @@ unsigned long CTervixProfile::readProfileLevelVariants() {
     return tervix::raiseError(tervix::kCannotReadFile, variantFilePath_);
   }
   for (const EntryForm& form : kEntryForms)
-    listOf(form.type) = std::move(lists[form.type]);
+    listOf(form.type) = std::move(::listOf(lists, form));
   return 0;
 }
 
