@@ -34,7 +34,8 @@ unsigned long copyLinked(const std::string& source, const std::string& target, O
 
 // Half a copy would pass for a whole one the next time.
 unsigned long copyWholeFile(const std::string& source, const std::string& target) {
-  const platform::CopyResult result = platform::copyFile(source, target);
+  const platform::CopyResult result =
+      platform::copyFile(source, target, platform::LinkedTarget::kRefused);
   if (result == platform::CopyResult::kMadePart)
     platform::removeFile(target);
   return result == platform::CopyResult::kCopied ? 0 : 1;
@@ -48,6 +49,9 @@ unsigned long copyEntry(const std::string& source, const std::string& target,
   std::string extension;
   if (getExtensionFromFileName(entry.name, extension) == 0)
     return copyWholeFile(from, to);
+  // What a link in the target leads to is no part of it.
+  if (platform::isLink(to))
+    return 1;
   return entry.kind == platform::EntryKind::kFolder ? copyTree(from, to, open)
                                                     : copyLinked(from, to, open);
 }

@@ -164,16 +164,18 @@ public:
   // - PROJECT_TYPE_SIMULATION: the folder beside it, named like it without ".sim"; a file that
   //   the new folder holds under the same name is overwritten. In the new folder the include list
   //   and the run's files take the new name, unless only case changed; a file that is there under
-  //   its new name already stays, and the copy under the old name goes (both stay where the one
-  //   under the new name cannot be read);
+  //   its new name already stays, and what was copied under the old name goes (both stay where the
+  //   one under the new name cannot be read);
   // - PROJECT_TYPE_OTHER: the run's files beside it, unless they are there; and in newPath the
   //   lines "NetlistFile" and "ProjectFile" are rewritten. A "newPath.bak" made for that is removed
-  //   again; one that was there before is left alone.
+  //   again; one that was there before is left alone. It is not rewritten through a link, unless
+  //   oldPath is the same.
   // The stored data and output paths are dropped, to be read afresh.
   // 10108 with both files: the ".sim" file could not be copied (nothing further is done), or its
   // backup or a run's file (the rest goes on). 10123 with both folders: the folder could not be
-  // copied whole, or a path is too short to have one. 1: no schematic or project above, no such
-  // project type, or newPath could not be rewritten; it is then as it was.
+  // copied whole, a path is too short to have one, or a link bears the name of the new folder, or
+  // of the schematic's or project's new folder above it (nothing is done then). 1: no schematic or
+  // project above, no such project type, or newPath could not be rewritten; it is then as it was.
   unsigned long syncUpProfileFiles(std::string& oldPath, std::string& newPath);
 
 private:

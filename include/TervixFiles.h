@@ -105,8 +105,8 @@ TERVIX_API unsigned long closeDir(_dirdesc* handle);
 // the entry is. A link is copied as what it leads to; one of a folder's name that leads nowhere is
 // left out.
 // 0; 10102, recorded, when target cannot be made; 1 when source cannot be opened, an entry
-// fails, a link leads back to a folder that is being copied, or target is source or lies in it
-// (nothing is made then).
+// fails, a link leads back to a folder that is being copied, a link in target stands
+// where an entry is to go, or target is source or lies in it (nothing is made then).
 TERVIX_API unsigned long cpDir(std::string& source, std::string& target);
 
 // Copies a regular file. A target that exists is overwritten and keeps its permissions, a new

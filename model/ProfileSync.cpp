@@ -1,4 +1,5 @@
-#include <initializer_list>
+#include <algorithm>
+#include <string_view>
 
 #include "CTervixProfile.h"
 #include "TervixFiles.h"
@@ -15,6 +16,8 @@
 namespace platform = tervix::platform;
 
 namespace {
+
+constexpr std::string_view kSeparators = "/\\";
 
 // Whether a file stands there that a copy must not touch, be it readable or not.
 bool isFileThere(const std::string& path) {
@@ -43,15 +46,46 @@ unsigned long copySimFile(std::string& oldPath, std::string& newPath) {
   return tervix::raiseError(tervix::kCannotCopyFile, oldPath, newPath);
 }
 
-// In a copied folder a file under its new name is the newer one; the one under the old name was
-// only carried along.
-void takeNewName(std::string oldFile, std::string newFile) {
+// The folder of a profile, and the copy of it.
+struct CopiedFolder {
+  std::string original;
+  std::string copy;
+  bool isWhole = true;
+};
+
+// In a copied folder a file under its new name is the newer one. One under the old name goes then
+// if it was only carried along: it may have stood there before.
+void takeNewName(const CopiedFolder& folder, const std::string& oldName,
+                 const std::string& newName) {
+  std::string oldFile = folder.copy + "/" + oldName;
+  std::string newFile = folder.copy + "/" + newName;
   if (!platform::isReadableFile(oldFile) || platform::isSameEntry(oldFile, newFile))
     return;
-  if (platform::isReadableFile(newFile))
+  if (!platform::isReadableFile(newFile)) {
+    if (!isFileThere(newFile))
+      mvFile(oldFile, newFile);
+  } else if (folder.isWhole && platform::isReadableFile(folder.original + "/" + oldName)) {
     rmFile(oldFile);
-  else if (!isFileThere(newFile))
-    mvFile(oldFile, newFile);
+  }
+}
+
+// Whether a link stands where folder is to be made, or one of the two above it: those of the
+// profile, its schematic and the project are composed from names, and something else may bear such
+// a name. What origin shares with it is where the project lies, by whatever link.
+bool leadsAway(const std::string& folder, const std::string& origin) {
+  constexpr int kComposedFolders = 3;
+  std::string_view place = folder;
+  for (int depth = 0; depth < kComposedFolders && !place.empty(); ++depth) {
+    const bool isShared = origin.compare(0, place.size(), place) == 0 &&
+                          (origin.size() == place.size() ||
+                           kSeparators.find(origin[place.size()]) != std::string_view::npos);
+    if (isShared)
+      return false;
+    if (platform::isLink(std::string(place)))
+      return true;
+    place = place.substr(0, std::min(place.find_last_of(kSeparators), place.size()));
+  }
+  return false;
 }
 
 std::string withoutEnding(const std::string& path) {
@@ -69,6 +103,11 @@ unsigned long CTervixProfile::syncUpProfileFiles(std::string& oldPath, std::stri
   const PROJECT_TYPE type = tervix::projectTypeOf(*this);
   if (type != PROJECT_TYPE_SIMULATION && type != PROJECT_TYPE_OTHER)
     return 1;
+  const std::string oldFolder = withoutEnding(oldPath);
+  const std::string newFolder = withoutEnding(newPath);
+  if (type == PROJECT_TYPE_SIMULATION && leadsAway(newFolder, oldFolder) &&
+      !platform::isSameEntry(oldFolder, newFolder))
+    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
   if (const unsigned long status = copySimFile(oldPath, newPath); status != 0)
     return status;
   return type == PROJECT_TYPE_SIMULATION ? syncUpFolder(oldPath, newPath)
@@ -78,28 +117,35 @@ unsigned long CTervixProfile::syncUpProfileFiles(std::string& oldPath, std::stri
 // A profile with a folder of its own: the folder goes along, and its files take the new name.
 unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& newPath) {
   std::string oldFolder = withoutEnding(oldPath);
-  std::string newFolder = withoutEnding(newPath);
-  if (oldFolder.empty() || newFolder.empty())
-    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
+  CopiedFolder folder{oldFolder, withoutEnding(newPath)};
+  if (oldFolder.empty() || folder.copy.empty())
+    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, folder.copy);
   unsigned long result = 0;
-  // A folder is not copied onto itself, and need not be.
-  if (cpDir(oldFolder, newFolder) != 0 && !platform::isSameEntry(oldFolder, newFolder))
-    result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
+  if (cpDir(oldFolder, folder.copy) != 0) {
+    // A folder is not copied onto itself, and need not be.
+    if (platform::isSameEntry(oldFolder, folder.copy))
+      return 0;
+    folder.isWhole = false;
+    result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, folder.copy);
+  }
   const std::string oldStem = tervix::stemOf(oldPath);
   const std::string newStem = tervix::stemOf(newPath);
   if (tervix::equalsIgnoringCase(oldStem, newStem))
     return result;
-  takeNewName(tervix::includeListIn(newFolder, oldStem), tervix::includeListIn(newFolder, newStem));
+  takeNewName(folder, tervix::includeListFile(oldStem), tervix::includeListFile(newStem));
   for (const char* suffix : tervix::kProfileFileSuffixes)
-    takeNewName(newFolder + "/" + tervix::fileInFolder(oldStem, suffix),
-                newFolder + "/" + tervix::fileInFolder(newStem, suffix));
+    takeNewName(folder, tervix::fileInFolder(oldStem, suffix),
+                tervix::fileInFolder(newStem, suffix));
   return result;
 }
 
 // A profile whose files lie beside its ".sim" file: they are copied one by one, and the old ones
 // stay (deliberate: they share their folder with everything else).
 unsigned long CTervixProfile::syncUpFiles(std::string& oldPath, std::string& newPath) {
-  unsigned long result = platform::isReadableFile(newPath) ? rewriteSimFile(newPath) : 0;
+  unsigned long result = platform::isReadableFile(newPath) ? 1 : 0;
+  // Not through a link that bears the new name: what it leads to is another file.
+  if (result != 0 && (newPath == oldPath || !platform::isLink(newPath)))
+    result = rewriteSimFile(newPath);
   for (const char* suffix : tervix::kProfileFileSuffixes) {
     std::string oldFile = tervix::fileBesideSim(withoutEnding(oldPath), suffix);
     std::string newFile = tervix::fileBesideSim(withoutEnding(newPath), suffix);

@@ -27,6 +27,8 @@ bool isRooted(std::string_view path);
 bool exists(const std::string& path);
 // Whether the name is in use, also by a link that leads nowhere.
 bool isTaken(const std::string& path);
+// Whether a link bears the name, wherever it leads.
+bool isLink(const std::string& path);
 bool isReadableFile(const std::string& path); // a regular file
 bool isWritableFile(const std::string& path); // a regular file
 bool isFolder(const std::string& path);
@@ -49,9 +51,11 @@ enum class MoveResult { kMoved, kOtherDevice, kFailed };
 MoveResult moveEntry(const std::string& oldPath, const std::string& newPath);
 
 enum class CopyResult { kCopied, kFailed, kMadePart };
+enum class LinkedTarget { kFollowed, kRefused };
 // Copies a regular file; see cpFile for what it promises. kMadePart: it failed and left a target
-// that was not there before.
-CopyResult copyFile(const std::string& source, const std::string& target);
+// that was not there before. A target that is a link is written through it, or fails.
+CopyResult copyFile(const std::string& source, const std::string& target,
+                    LinkedTarget linked = LinkedTarget::kFollowed);
 
 // Gives the file path this content as text. Either all of it is written, or the file stays as it
 // was: the content goes to a file beside it first, which then takes its place. A file that holds

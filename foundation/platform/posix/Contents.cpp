@@ -57,10 +57,12 @@ bool copyContents(const FileHandle& source, const FileHandle& target, off_t size
 
 // Opens the target of a copy without touching its content yet: nothing is lost when it turns out
 // to be the source itself, or no file.
-bool openTarget(FileHandle& target, bool& isNew, const char* path, const struct stat& source) {
+bool openTarget(FileHandle& target, bool& isNew, const char* path, const struct stat& source,
+                LinkedTarget linked) {
   const mode_t permissions = source.st_mode & kPermissionBits;
+  const int linkFlag = linked == LinkedTarget::kRefused ? O_NOFOLLOW : 0;
   isNew = target.open(path, O_WRONLY | O_CREAT | O_EXCL, permissions);
-  if (!isNew && !target.open(path, O_WRONLY | O_CREAT, permissions))
+  if (!isNew && !target.open(path, O_WRONLY | O_CREAT | linkFlag, permissions))
     return false;
   const auto status = target.status();
   if (!isRegular(status) || (status->st_dev == source.st_dev && status->st_ino == source.st_ino))
@@ -125,7 +127,7 @@ bool holdsAlready(const std::string& path, const struct stat& status, std::strin
 
 } // namespace
 
-CopyResult copyFile(const std::string& source, const std::string& target) {
+CopyResult copyFile(const std::string& source, const std::string& target, LinkedTarget linked) {
   FileHandle from;
   if (!from.open(NativePath(source).get(), O_RDONLY))
     return CopyResult::kFailed;
@@ -134,7 +136,7 @@ CopyResult copyFile(const std::string& source, const std::string& target) {
     return CopyResult::kFailed;
   FileHandle to;
   bool isNew = false;
-  if (openTarget(to, isNew, NativePath(target).get(), *status) &&
+  if (openTarget(to, isNew, NativePath(target).get(), *status, linked) &&
       copyContents(from, to, status->st_size) && to.close())
     return CopyResult::kCopied;
   return isNew ? CopyResult::kMadePart : CopyResult::kFailed;

@@ -100,6 +100,11 @@ bool isTaken(const std::string& path) {
   return lstat(NativePath(path).get(), &status) == 0;
 }
 
+bool isLink(const std::string& path) {
+  struct stat status {};
+  return lstat(NativePath(path).get(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 bool isReadableFile(const std::string& path) {
   return isOfKind(path, S_IFREG, R_OK);
 }

@@ -42,11 +42,8 @@ bool openTarget(FileHandle& target, bool& isNew, const char* path, const FileSta
 
 // The file itself where path is a link to it.
 std::string linkResolved(const std::string& path) {
-  const DWORD attributes = GetFileAttributesA(path.c_str());
-  const bool isLink =
-      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   FileHandle file;
-  if (!isLink || !file.openForStatus(path.c_str()))
+  if (!isLink(path) || !file.openForStatus(path.c_str()))
     return path;
   return file.finalPath().value_or(path);
 }
@@ -98,7 +95,9 @@ bool holdsAlready(const std::string& path, std::string_view content) {
 
 } // namespace
 
-CopyResult copyFile(const std::string& source, const std::string& target) {
+CopyResult copyFile(const std::string& source, const std::string& target, LinkedTarget linked) {
+  if (linked == LinkedTarget::kRefused && isLink(target))
+    return CopyResult::kFailed;
   FileHandle from;
   if (!from.open(NativePath(source).get(), GENERIC_READ, OPEN_EXISTING))
     return CopyResult::kFailed;

@@ -66,6 +66,11 @@ bool isTaken(const std::string& path) {
   return GetFileAttributesA(NativePath(path).get()) != INVALID_FILE_ATTRIBUTES;
 }
 
+bool isLink(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(NativePath(path).get());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 bool isReadableFile(const std::string& path) {
   return isRegularFile(statusOf(NativePath(path).get()));
 }

@@ -94,6 +94,25 @@ TEST_F(Links, InACopiedFolderAreCopiedAsWhatTheyLeadTo) {
   EXPECT_FALSE(fs::is_symlink(folder_.path("target/folder")));
 }
 
+TEST_F(Links, InTheTargetOfAFoldersCopyAreNotWrittenThrough) {
+  folder_.file("elsewhere/x.lib", "kept");
+  folder_.file("source/x.lib", "new");
+  folder_.folder("target");
+  for (const char* leadsTo : {"../elsewhere/x.lib", "../nowhere"}) {
+    const std::string planted = link(leadsTo, "target/x.lib");
+    EXPECT_EQ(cpDir(text(folder_.path("source")), text(folder_.path("target"))), 1U);
+    EXPECT_TRUE(fs::is_symlink(planted));
+    fs::remove(planted);
+  }
+  fs::remove(folder_.path("source/x.lib"));
+  folder_.file("source/sub/x.lib", "new");
+  link("../elsewhere", "target/sub");
+  EXPECT_EQ(cpDir(text(folder_.path("source")), text(folder_.path("target"))), 1U);
+  EXPECT_EQ(snapshotOf(folder_.path("elsewhere")),
+            (std::map<std::string, std::string>{{"x.lib", "kept"}}));
+  EXPECT_FALSE(isFile(folder_.path("nowhere")));
+}
+
 TEST_F(Links, LeadingNowhereAreLeftOutOfACopy) {
   folder_.folder("source");
   link("nowhere", "source/dangling");
