@@ -164,7 +164,7 @@ public:
   // - PROJECT_TYPE_SIMULATION: the folder beside it, named like it without ".sim"; a file that
   //   the new folder holds under the same name is overwritten. In the new folder the include list
   //   and the run's files take the new name, unless only case changed; a file that is there under
-  //   its new name already stays, and what was copied under the old name goes (both stay where the
+  //   its new name already stays, and the copy under the old name goes (both stay where the
   //   one under the new name cannot be read);
   // - PROJECT_TYPE_OTHER: the run's files beside it, unless they are there; and in newPath the
   //   lines "NetlistFile" and "ProjectFile" are rewritten. A "newPath.bak" made for that is removed

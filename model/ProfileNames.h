@@ -32,12 +32,8 @@ inline std::string fileInFolder(const std::string& stem, std::string_view suffix
   return joined({stem, ".", suffix});
 }
 
-inline std::string includeListFile(const std::string& stem) {
-  return stem + "_profile.inc";
-}
-
 inline std::string includeListIn(const std::string& folder, const std::string& stem) {
-  return joined({folder, "/", includeListFile(stem)});
+  return joined({folder, "/", stem, "_profile.inc"});
 }
 
 // The folder of a project's files, for a project named or based on stem.

@@ -46,27 +46,15 @@ unsigned long copySimFile(std::string& oldPath, std::string& newPath) {
   return tervix::raiseError(tervix::kCannotCopyFile, oldPath, newPath);
 }
 
-// The folder of a profile, and the copy of it.
-struct CopiedFolder {
-  std::string original;
-  std::string copy;
-  bool isWhole = true;
-};
-
-// In a copied folder a file under its new name is the newer one. One under the old name goes then
-// if it was only carried along: it may have stood there before.
-void takeNewName(const CopiedFolder& folder, const std::string& oldName,
-                 const std::string& newName) {
-  std::string oldFile = folder.copy + "/" + oldName;
-  std::string newFile = folder.copy + "/" + newName;
+// In a copied folder a file under its new name is the newer one; the one under the old name was
+// only carried along.
+void takeNewName(std::string oldFile, std::string newFile) {
   if (!platform::isReadableFile(oldFile) || platform::isSameEntry(oldFile, newFile))
     return;
-  if (!platform::isReadableFile(newFile)) {
-    if (!isFileThere(newFile))
-      mvFile(oldFile, newFile);
-  } else if (folder.isWhole && platform::isReadableFile(folder.original + "/" + oldName)) {
+  if (platform::isReadableFile(newFile))
     rmFile(oldFile);
-  }
+  else if (!isFileThere(newFile))
+    mvFile(oldFile, newFile);
 }
 
 // Whether a link stands where folder is to be made, or one of the two above it: those of the
@@ -117,25 +105,24 @@ unsigned long CTervixProfile::syncUpProfileFiles(std::string& oldPath, std::stri
 // A profile with a folder of its own: the folder goes along, and its files take the new name.
 unsigned long CTervixProfile::syncUpFolder(std::string& oldPath, std::string& newPath) {
   std::string oldFolder = withoutEnding(oldPath);
-  CopiedFolder folder{oldFolder, withoutEnding(newPath)};
-  if (oldFolder.empty() || folder.copy.empty())
-    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, folder.copy);
+  std::string newFolder = withoutEnding(newPath);
+  if (oldFolder.empty() || newFolder.empty())
+    return tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
   unsigned long result = 0;
-  if (cpDir(oldFolder, folder.copy) != 0) {
+  if (cpDir(oldFolder, newFolder) != 0) {
     // A folder is not copied onto itself, and need not be.
-    if (platform::isSameEntry(oldFolder, folder.copy))
+    if (platform::isSameEntry(oldFolder, newFolder))
       return 0;
-    folder.isWhole = false;
-    result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, folder.copy);
+    result = tervix::raiseError(tervix::kCannotCopyDirectory, oldFolder, newFolder);
   }
   const std::string oldStem = tervix::stemOf(oldPath);
   const std::string newStem = tervix::stemOf(newPath);
   if (tervix::equalsIgnoringCase(oldStem, newStem))
     return result;
-  takeNewName(folder, tervix::includeListFile(oldStem), tervix::includeListFile(newStem));
+  takeNewName(tervix::includeListIn(newFolder, oldStem), tervix::includeListIn(newFolder, newStem));
   for (const char* suffix : tervix::kProfileFileSuffixes)
-    takeNewName(folder, tervix::fileInFolder(oldStem, suffix),
-                tervix::fileInFolder(newStem, suffix));
+    takeNewName(newFolder + "/" + tervix::fileInFolder(oldStem, suffix),
+                newFolder + "/" + tervix::fileInFolder(newStem, suffix));
   return result;
 }
 

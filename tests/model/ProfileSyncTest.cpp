@@ -68,23 +68,6 @@ TEST_F(FolderSync, KeepsAFileThatHasTheNewNameAlready) {
   EXPECT_EQ(top(), (Snapshot{{"old/old.dat", "old"}, {"new/new.dat", "new"}}));
 }
 
-TEST_F(FolderSync, KeepsAFileUnderTheOldNameThatItDidNotCarryAlong) {
-  put("old/old.out", "out");
-  put("new/old.dat", "somebody's");
-  put("new/new.dat", "new");
-  EXPECT_EQ(sync(), 0U);
-  EXPECT_EQ(snapshotOf(topFolder() + "/new"),
-            (Snapshot{{"old.dat", "somebody's"}, {"new.dat", "new"}, {"new.out", "out"}}));
-}
-
-TEST_F(FolderSync, KeepsAFileUnderTheOldNameWhenTheCopyFailedBeforeIt) {
-  put("new/old.dat", "somebody's");
-  put("new/new.dat", "new");
-  EXPECT_EQ(sync(), 10123U);
-  EXPECT_EQ(snapshotOf(topFolder() + "/new"),
-            (Snapshot{{"old.dat", "somebody's"}, {"new.dat", "new"}}));
-}
-
 TEST_F(FolderSync, WithTheSameNameInAnotherFolderRenamesNothing) {
   put("old/old.dat", "data");
   EXPECT_EQ(sync("old.sim", "elsewhere/OLD.sim"), 0U);
