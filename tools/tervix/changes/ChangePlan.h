@@ -54,6 +54,7 @@ struct ChangePlan {
   // before; empty when that is the same.
   std::string projectFile;
   std::string formerProjectFile;
+  std::string designFolder; // where it differs from that of the project file
 
   // Of a deletion: the (schematic, profile) pairs whose files go; a schematic's own have no
   // profile.

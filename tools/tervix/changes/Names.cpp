@@ -9,9 +9,13 @@
 namespace tervix::tool {
 namespace {
 
-constexpr std::array<const char*, 22> kDeviceNames = {
-    "con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
-    "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
+// The six with bytes are com1 to lpt3 with a raised digit.
+constexpr std::array<const char*, 30> kDeviceNames = {
+    "conin$",      "conout$",     "com\xc2\xb9", "com\xc2\xb2", "com\xc2\xb3", "lpt\xc2\xb9",
+    "lpt\xc2\xb2", "lpt\xc2\xb3", "con",         "prn",         "aux",         "nul",
+    "com1",        "com2",        "com3",        "com4",        "com5",        "com6",
+    "com7",        "com8",        "com9",        "lpt1",        "lpt2",        "lpt3",
+    "lpt4",        "lpt5",        "lpt6",        "lpt7",        "lpt8",        "lpt9"};
 constexpr const char* kForbidden = "<>:\"|?*";
 constexpr const char* kReasonForbidden = "it holds one of < > : \" | ? *";
 constexpr const char* kReasonControl = "it holds a control character";
@@ -28,6 +32,10 @@ bool isDeviceName(const std::string& name) {
 }
 
 bool holdsControl(const std::string& name) {
+  // U+0080 to U+009F are control characters, too.
+  for (std::size_t at = name.find('\xc2'); at != std::string::npos; at = name.find('\xc2', at + 1))
+    if (at + 1 < name.size() && static_cast<unsigned char>(name[at + 1]) < 0xa0)
+      return true;
   return std::any_of(name.begin(), name.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; });
 }
@@ -84,7 +92,7 @@ const char* reasonAgainstOnWindows(const std::string& fileName) {
     return "it ends with a dot or a blank";
   // A device keeps its name whatever ending follows.
   const std::size_t stem = std::min(fileName.find('.'), fileName.size());
-  const bool mayBeDevice = stem == 3 || stem == 4;
+  const bool mayBeDevice = stem >= 3 && stem <= 7;
   return mayBeDevice && isDeviceName(fileName.substr(0, stem)) ? kReasonDevice : nullptr;
 }
 

@@ -9,6 +9,7 @@
 #include "tools/tervix/changes/FileContent.h"
 #include "tools/tervix/changes/Interruption.h"
 #include "tools/tervix/changes/Journal.h"
+#include "tools/tervix/changes/PlacesTouched.h"
 #include "tools/tervix/changes/PlanSteps.h"
 
 namespace tervix::tool {
@@ -37,9 +38,21 @@ void refuseLastingFolders(const ChangePlan& plan) {
       throw Failure("nothing may be removed from " + inQuotes(folder) + "; nothing was changed");
 }
 
+// A journal that names what lies elsewhere would not be trusted afterwards.
+void refuseElsewhere(const ChangePlan& plan, const ChangeRecord& record) {
+  if (plan.isElsewhere)
+    return;
+  if (const auto outside = PlacesTouched(foldersOf(plan)).firstOutside(record))
+    throw Failure(inQuotes(*outside) +
+                  " does not lie in the folder of the project, or a link on the way leads out of "
+                  "it; nothing was changed");
+}
+
 class Runner {
 public:
-  explicit Runner(const ChangePlan& plan) : plan_(plan), record_(recordOf(plan)) {}
+  explicit Runner(const ChangePlan& plan) : plan_(plan), record_(recordOf(plan)) {
+    refuseElsewhere(plan_, record_);
+  }
 
   void run() {
     start();

@@ -12,7 +12,8 @@ namespace tervix::tool {
 // A journal beside the project file is there from before anything is touched until all is done, so
 // that what is interrupted can be settled later; see Interruption.h.
 //
-// Nothing is touched when a file that is to be made is there already.
+// Nothing is touched when a file that is to be made is there already, or when a link in the project
+// would lead the change out of the folders of project and design.
 void runPlan(const ChangePlan& plan);
 
 } // namespace tervix::tool

@@ -105,6 +105,8 @@ struct UnusedProfile {
 // there: the library passed it over.
 std::optional<UnusedProfile> unusedProfile(const ProjectView& view, const ProjectLayout& layout,
                                            const std::string& schematic, const std::string& name) {
+  if (name.empty())
+    return std::nullopt;
   for (const SchematicView& candidate : view.schematics) {
     if (!schematic.empty() && !isSameName(candidate.name, schematic))
       continue;

@@ -49,6 +49,7 @@ void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
 }
 
 void checkTree(ChangePlan& plan, const ProjectLayout& layout, const ExpectedTree& expected) {
+  plan.designFolder = layout.designFolder;
   plan.check = [file = plan.projectFile, frontEnd = layout.frontEnd, expected] {
     requireTree(file, frontEnd, expected);
   };

@@ -12,6 +12,7 @@
 #include "tools/tervix/ProjectView.h"
 #include "tools/tervix/changes/FileContent.h"
 #include "tools/tervix/changes/Names.h"
+#include "tools/tervix/changes/PlacesTouched.h"
 #include "tools/tervix/changes/ProjectLayout.h"
 #include "tools/tervix/changes/Removal.h"
 
@@ -20,25 +21,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string folderOf(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
-
-bool liesBelow(const std::string& path, const std::string& folder) {
-  return path.size() > folder.size() + 1 && path.compare(0, folder.size(), folder) == 0 &&
-         path[folder.size()] == '/';
-}
-
-std::string withoutLinks(const std::string& path) {
-  std::error_code error;
-  const fs::path place = fs::weakly_canonical(path, error);
-  return error ? std::string() : place.generic_string();
-}
-
 // The same name in the same folder, however the folder is spelt.
 bool isSamePlace(const std::string& a, const std::string& b) {
   return fs::path(a).filename() == fs::path(b).filename() &&
-         withoutLinks(folderOf(a)) == withoutLinks(folderOf(b));
+         withoutLinks(folderHolding(a)) == withoutLinks(folderHolding(b));
 }
 
 // The project as far as it opens in the state that an interrupted change left.
@@ -66,20 +52,8 @@ public:
   }
 
   void check() {
-    const ChangePlan& plan = record_.plan;
-    for (const ChangePlan::Made& made : plan.made) {
-      requireInside(made.path);
-      if (!made.source.empty())
-        requireInside(made.source);
-    }
-    for (const ChangePlan::Rewritten& file : plan.rewritten) {
-      requireInside(file.path);
-      requireInside(withoutLinks(file.path));
-    }
-    for (const auto* paths :
-         {&plan.madeFolders, &plan.removed, &plan.removedFolders, &record_.newFolders})
-      for (const std::string& path : *paths)
-        requireInside(path);
+    if (const auto outside = PlacesTouched(folders_).firstOutside(record_))
+      refuse(*outside);
     requireStaged();
     requireDeleted();
   }
@@ -104,37 +78,26 @@ private:
       if (fs::path(file).lexically_normal().generic_string() != file ||
           !isSameName(fs::path(file).extension().string(), ".tvp"))
         refuse(file);
-    const std::string folder = folderOf(isFormer ? former : later);
-    const std::string otherFolder = folderOf(isFormer ? later : former);
+    const std::string folder = folderHolding(isFormer ? former : later);
+    const std::string otherFolder = folderHolding(isFormer ? later : former);
     folders_ = {folder};
     if (folder == otherFolder)
       return;
-    const bool isRenamed = folderOf(folderOf(folder)) == folderOf(folderOf(otherFolder)) &&
-                           fs::path(folder).filename() == fs::path(otherFolder).filename() &&
-                           (isSameName(fs::path(folder).filename().string(), "tvx_sim_1") ||
-                            isSameName(fs::path(folder).filename().string(), "cfg_analog"));
+    const bool isRenamed =
+        folderHolding(folderHolding(folder)) == folderHolding(folderHolding(otherFolder)) &&
+        fs::path(folder).filename() == fs::path(otherFolder).filename() &&
+        (isSameName(fs::path(folder).filename().string(), "tvx_sim_1") ||
+         isSameName(fs::path(folder).filename().string(), "cfg_analog"));
     if (!isRenamed)
       refuse(isFormer ? later : former);
-    folders_ = {folderOf(folder), folderOf(otherFolder)};
-  }
-
-  void requireInside(const std::string& path) const {
-    const bool isNormal = fs::path(path).lexically_normal().generic_string() == path;
-    const std::string place = withoutLinks(folderOf(path));
-    const auto holds = [&](const std::string& folder) {
-      const std::string real = withoutLinks(folder);
-      return (path == folder || liesBelow(path, folder) || liesBelow(path, real)) &&
-             (place == real || liesBelow(place, real) || path == folder);
-    };
-    if (!isNormal || std::none_of(folders_.begin(), folders_.end(), holds))
-      refuse(path);
+    folders_ = {folderHolding(folder), folderHolding(otherFolder)};
   }
 
   void requireStaged() const {
     for (std::size_t i = 0; i < record_.former.size(); ++i) {
       const std::string place = withoutLinks(record_.plan.rewritten[i].path);
       const std::string& staged = record_.former[i].staged;
-      if (folderOf(staged) != folderOf(place) ||
+      if (folderHolding(staged) != folderHolding(place) ||
           fs::path(staged).filename().string().rfind(".tervix-", 0) != 0)
         refuse(staged);
     }

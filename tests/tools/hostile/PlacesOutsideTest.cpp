@@ -1,0 +1,168 @@
+#include <filesystem>
+#include <functional>
+
+#include "tests/tools/ChangedSample.h"
+#include "tests/tools/EntriesOnDisk.h"
+
+// Projects that point out of themselves, by paths and by links. No command writes or removes what
+// lies there.
+
+using namespace tervix::testing;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kTop = "amp-TervixFiles/TOP/";
+
+// A copy of a sample, and beside it a folder of somebody else.
+struct Neighbours {
+  SampleCopy project{allSamples().at(0)};
+  TemporaryFolder outside;
+
+  Neighbours() {
+    fs::copy(project.path(kTop + "tran"), outside.path("x"));
+    fs::copy_file(project.path(kTop + "tran.sim"), outside.path("x.sim"));
+    fs::copy_file(project.path("amp.dsn"), outside.path("other.dsn"));
+    outside.file("models.lib", "* somebody's\n");
+  }
+
+  void replace(const std::string& name, const std::string& from, const std::string& to) const {
+    std::string text = contentOf(project.path(name));
+    const std::size_t at = text.find(from);
+    ASSERT_NE(at, std::string::npos) << from;
+    writeFile(project.path(name), text.replace(at, from.size(), to));
+  }
+  // What bears the name moves outside, and a link leads there.
+  void moveOut(const std::string& name) const {
+    const std::string place = outside.path("moved");
+    fs::rename(project.path(name), place);
+    fs::create_symlink(place, project.path(name));
+  }
+  void link(const std::string& target, const std::string& name) const {
+    fs::create_symlink(target, project.path(name));
+  }
+  std::string wayOut() const {
+    return fs::path(outside.path()).lexically_relative(project.folder()).generic_string();
+  }
+};
+
+struct Trap {
+  const char* title;
+  std::function<void(const Neighbours&)> set;
+  Arguments meant; // commands, by their first words, that are about what lies outside
+};
+
+std::ostream& operator<<(std::ostream& stream, const Trap& trap) {
+  return stream << trap.title;
+}
+
+const std::vector<Trap>& traps() {
+  static const std::vector<Trap> all = {
+      {"ProfilesByRelativeAndFullPath",
+       [](const Neighbours& it) {
+         it.replace("amp.tvp", "\"./amp-TervixFiles/TOP/tran.sim\"",
+                    "\"" + it.wayOut() + "/x.sim\", \"" + it.outside.path("x.sim") +
+                        "\", \"./amp-TervixFiles/TOP/tran.sim\"");
+       },
+       {}},
+      {"ADesignByRelativePath",
+       [](const Neighbours& it) {
+         it.replace("amp.tvp", "\"amp.dsn\"", "\"" + it.wayOut() + "/other.dsn\"");
+       },
+       {"schematic", "design"}},
+      {"ModelsByFullPath",
+       [](const Neighbours& it) {
+         it.replace("amp.tvp", "opamp.lib", it.outside.path("models.lib"));
+       },
+       {}},
+      {"RunFilesOfAProfile",
+       [](const Neighbours& it) {
+         std::string text = "DataFile = \"../../" + it.wayOut() + "/x/tran.dat\"\nOutFile = \"" +
+                            it.outside.path("x/tran.out") + "\"\n";
+         writeFile(it.project.path(kTop + "tran.sim"),
+                   text + contentOf(it.project.path(kTop + "tran.sim")));
+       },
+       {}},
+      {"ALinkForAProfilesFile", [](const Neighbours& it) { it.moveOut(kTop + "tran.sim"); }, {}},
+      {"ALinkForAProfilesFolder", [](const Neighbours& it) { it.moveOut(kTop + "tran"); }, {}},
+      {"ALinkForASchematicsFolder",
+       [](const Neighbours& it) { it.moveOut("amp-TervixFiles/TOP"); },
+       {}},
+      {"ALinkForTheFilesFolder", [](const Neighbours& it) { it.moveOut("amp-TervixFiles"); }, {}},
+      {"ALinkForAnIncludeList",
+       [](const Neighbours& it) { it.moveOut(kTop + "tran/tran_profile.inc"); },
+       {}},
+      {"ALinkForTheProjectFile", [](const Neighbours& it) { it.moveOut("amp.tvp"); }, {}},
+      {"ALinkForTheDesignFile", [](const Neighbours& it) { it.moveOut("amp.dsn"); }, {}},
+      {"LinksForWhatIsToBeMade",
+       [](const Neighbours& it) {
+         for (const char* name : {"amp-TervixFiles/TOP/new", "amp-TervixFiles/NEW",
+                                  "new-TervixFiles", "new.tvp", "new.dsn"})
+           it.link(it.outside.path(), name);
+         it.link(it.outside.path("nothing"), kTop + "new.sim");
+       },
+       {}},
+      {"LinksInALoop",
+       [](const Neighbours& it) {
+         it.link(".", kTop + "tran/here");
+         it.link("..", kTop + "tran/up");
+       },
+       {}},
+  };
+  return all;
+}
+
+class Trapped : public ::testing::TestWithParam<Trap> {};
+
+std::vector<Arguments> changes(const SampleCopy& project, const std::string& archive) {
+  const std::string file = project.project();
+  return {{"profile", "add", file, "new"},
+          {"profile", "copy", file, "tran", "new"},
+          {"profile", "rename", file, "tran", "new"},
+          {"profile", "delete", file, "tran"},
+          {"profile", "activate", file, "ac"},
+          {"schematic", "add", file, "new"},
+          {"schematic", "rename", file, "TOP", "NEW"},
+          {"schematic", "delete", file, "BIAS"},
+          {"design", "rename", file, "new"},
+          {"project", "rename", file, "new"},
+          {"archive", file, archive},
+          {"check", "--fix", file},
+          {"lib", "add", file, "tran", "--kind", "library", "added.lib"},
+          {"lib", "remove", file, "tran", "--kind", "library", "cable.lib"}};
+}
+
+bool isMeant(const Trap& trap, const Arguments& command) {
+  for (const std::string& word : trap.meant)
+    if (command.front() == word)
+      return true;
+  return false;
+}
+
+TEST_P(Trapped, LeavesWhatLiesOutside) {
+  const std::size_t count = changes(SampleCopy(allSamples().at(0)), "").size();
+  for (std::size_t number = 0; number < count; ++number) {
+    const Neighbours neighbours;
+    GetParam().set(neighbours);
+    const TemporaryFolder archive;
+    const Arguments command = changes(neighbours.project, archive.path("archive"))[number];
+    if (isMeant(GetParam(), command))
+      continue;
+    const EntriesOnDisk before = entriesOf(neighbours.outside.path());
+    const Files project = snapshotOf(neighbours.project.folder());
+    const ToolRun run = runTool(command);
+    const std::string what = command[0] + " " + command[1];
+    expectUntouched(before, entriesOf(neighbours.outside.path()), what);
+    // It is done, or refused before anything is touched.
+    if (run.status != 0 && command.front() != "check") {
+      EXPECT_NE(run.errors, "") << what;
+      EXPECT_EQ(snapshotOf(neighbours.project.folder()), project) << what;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(By, Trapped, ::testing::ValuesIn(traps()),
+                         [](const auto& tested) { return std::string(tested.param.title); });
+
+} // namespace
