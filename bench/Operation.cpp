@@ -1,5 +1,5 @@
 // Runs one operation of the library and prints a figure: bench_operation NAME ARGUMENT...
-// open LAYOUT PROJECT_FILE, open-and-save, rename-schematic, copy-folder FROM TO and
+// open LAYOUT PROJECT_FILE, open-and-save, rename-schematic, archive, copy-folder FROM TO and
 // copy-file FROM TO print nanoseconds; allocations and memory print what opening takes for each
 // profile.
 
@@ -66,6 +66,13 @@ double renameSchematic(const Arguments& arguments) {
       [&] { require(static_cast<CTervixSchematic*>(schematic)->rename(changed) == 0, "rename"); }));
 }
 
+double archive(const Arguments& arguments) {
+  CTervixProject& project = opened(arguments);
+  std::string folder = arguments.at(2);
+  return static_cast<double>(
+      nanosecondsOf([&] { require(project.archiveProject(folder) == 0, "archive"); }));
+}
+
 double copyFolder(const Arguments& arguments) {
   std::string from = arguments.at(0);
   std::string to = arguments.at(1);
@@ -100,6 +107,7 @@ int main(int argc, char** argv) {
       {"open", open},
       {"open-and-save", openAndSave},
       {"rename-schematic", renameSchematic},
+      {"archive", archive},
       {"copy-folder", copyFolder},
       {"copy-file", copyFile},
       {"allocations", allocations},
