@@ -1,6 +1,5 @@
-#include <malloc.h>
-
 #include "tests/project/LayoutTest.h"
+#include "tests/support/BlocksInUse.h"
 
 // A project that is opened again and again leaves nothing behind when what the caller owns is
 // destroyed: its schematics, and with them their profiles.
@@ -11,10 +10,6 @@ namespace {
 constexpr int kOpenings = 1000;
 constexpr int kSettled = 10; // by then what is allocated once is there
 
-std::size_t bytesInUse() {
-  return mallinfo2().uordblks;
-}
-
 class RepeatedOpening : public LayoutTest {
 protected:
   void open(const std::string& file, int from) const {
@@ -22,15 +17,15 @@ protected:
     EXPECT_EQ(project->initialize(), 0u);
     EXPECT_FALSE(treeOf(*project).empty());
   }
-  // The bytes that are in use after the last opening and were not after the tenth.
+  // The blocks that are in use after the last opening and were not after the tenth.
   long grownBy(const std::string& file, int from) const {
-    std::size_t settled = 0;
+    long settled = 0;
     for (int opening = 1; opening <= kOpenings; ++opening) {
       open(file, from);
       if (opening == kSettled)
-        settled = bytesInUse();
+        settled = blocksInUse();
     }
-    return static_cast<long>(bytesInUse()) - static_cast<long>(settled);
+    return blocksInUse() - settled;
   }
 };
 TERVIX_IN_EACH_LAYOUT(RepeatedOpening);
@@ -50,17 +45,17 @@ TEST_P(RepeatedOpening, OfAProjectThatCannotBeReadKeepsNoMemory) {
   const auto fail = [&] { EXPECT_EQ(OpenedProject(file, frontEnd())->initialize(), 10109u); };
   for (int opening = 0; opening < kSettled; ++opening)
     fail();
-  const std::size_t settled = bytesInUse();
+  const long settled = blocksInUse();
   for (int opening = kSettled; opening < kOpenings; ++opening)
     fail();
-  EXPECT_EQ(bytesInUse(), settled);
+  EXPECT_EQ(blocksInUse(), settled);
 }
 
 // What the header says of a project that is destroyed without its schematics: the measure sees it.
 TEST_P(RepeatedOpening, WithoutDestroyingTheSchematicsKeepsThem) {
   const std::string file = write();
   std::vector<CTervixNode*> forgotten;
-  const std::size_t before = bytesInUse();
+  const long before = blocksInUse();
   {
     CTervixProject project(file.c_str(), static_cast<FRONTEND_ID>(frontEnd()), false, nullptr);
     EXPECT_EQ(project.initialize(), 0u);
@@ -69,7 +64,7 @@ TEST_P(RepeatedOpening, WithoutDestroyingTheSchematicsKeepsThem) {
          project.getNextSchematic(schematic))
       forgotten.push_back(schematic);
   }
-  EXPECT_GT(bytesInUse(), before + sizeof(CTervixSchematic));
+  EXPECT_GT(blocksInUse(), before + 1); // the list of them is one
   for (const CTervixNode* schematic : forgotten)
     delete schematic;
 }

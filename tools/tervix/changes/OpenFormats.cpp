@@ -111,11 +111,9 @@ void OpenFormatFile::renamePaths(const std::function<std::string(const std::stri
   replaceText(kDesignResources, kOutputFile, newPath);
 }
 
-void OpenFormatFile::renameActive(const std::string& displayName,
-                                  const std::string& newDisplayName) {
-  replaceText(kProfiles, kActive, [&](const std::string& active) {
-    return isSameName(active, displayName) ? newDisplayName : active;
-  });
+void OpenFormatFile::renameActive(
+    const std::function<std::string(const std::string&)>& newDisplayName) {
+  replaceText(kProfiles, kActive, newDisplayName);
 }
 
 void OpenFormatFile::setActive(const std::string& displayName) {

@@ -24,7 +24,7 @@ public:
 
   // A project file: every file that it lists, and its output file.
   void renamePaths(const std::function<std::string(const std::string&)>& newPath);
-  void renameActive(const std::string& displayName, const std::string& newDisplayName);
+  void renameActive(const std::function<std::string(const std::string&)>& newDisplayName);
   void setActive(const std::string& displayName);
   void addProfile(const std::string& file);
   // matches tells which of the registered files are meant.

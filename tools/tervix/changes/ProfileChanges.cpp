@@ -215,7 +215,9 @@ ChangePlan planProfileDelete(CTervixProject& project, const std::string& schemat
   keepFilesNamedBy(plan, view, expected);
   if (layout.hasDesignFile()) {
     OpenFormatFile file(layout.projectFile);
-    file.renameActive(profile.displayName, "");
+    file.renameActive([&name = profile.displayName](const std::string& active) {
+      return isSameName(active, name) ? std::string() : active;
+    });
     unregister(plan, file, layout, profile.sim.place);
     checkTree(plan, layout, expected);
   }

@@ -242,9 +242,12 @@ void Renaming::planTexts(ChangePlan& plan) {
   file.renamePaths([this](const std::string& text) {
     return renamedText({text, before_.folder}, after_.folder, map_);
   });
-  for (const ProfileChange& change : profiles_)
-    file.renameActive(before_.placesOf(change.schematic, change.profile).displayName,
-                      after_.placesOf(change.newSchematic, change.newProfile).displayName);
+  file.renameActive([this](const std::string& active) {
+    for (const ProfileChange& change : profiles_)
+      if (isSameName(before_.placesOf(change.schematic, change.profile).displayName, active))
+        return after_.placesOf(change.newSchematic, change.newProfile).displayName;
+    return active;
+  });
   planText(plan, before_.projectFile, file.text());
 }
 
