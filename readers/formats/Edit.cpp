@@ -83,13 +83,30 @@ std::string Edit::remove(const Item& list, std::size_t index) const {
 std::string Edit::replace(const Item& list, std::size_t index, std::string_view value) const {
   std::vector<std::string> values = elements(list);
   requireElement(list, values.size(), index);
-  requireWritable(value);
-  if (values[index] == value) {
+  values[index] = value;
+  return replaceAll(list, values);
+}
+
+std::string Edit::replaceAll(const Item& list, const std::vector<std::string>& values) const {
+  const std::vector<std::string> former = elements(list);
+  if (former.size() != values.size()) {
+    refuse(nameOf(list) + " has " + std::to_string(former.size()) + " entries, and not " +
+           std::to_string(values.size()));
+  }
+  for (const std::string& value : values) {
+    requireWritable(value);
+  }
+  if (values == former) {
     return std::string(text_);
   }
-  values[index] = value;
-  const Range place = elementsOf(text_, placeOf(list)).at(index).value;
-  return checked({{place, inQuotes(value)}}, list, asArray(values));
+  const std::vector<Element> places = elementsOf(text_, placeOf(list));
+  std::vector<Change> changes;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (values[i] != former[i]) {
+      changes.push_back({places.at(i).value, inQuotes(values[i])});
+    }
+  }
+  return checked(changes, list, asArray(values));
 }
 
 void Edit::refuse(std::string reason) const {

@@ -25,6 +25,7 @@ public:
   std::string add(const Item& list, std::string_view value) const;
   std::string remove(const Item& list, std::size_t index) const;
   std::string replace(const Item& list, std::size_t index, std::string_view value) const;
+  std::string replaceAll(const Item& list, const std::vector<std::string>& values) const;
 
 private:
   [[noreturn]] void refuse(std::string reason) const;

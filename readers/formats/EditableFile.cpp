@@ -79,6 +79,13 @@ bool EditableFile::replaceElement(std::string_view section, std::string_view ite
   });
 }
 
+bool EditableFile::replaceElements(std::string_view section, std::string_view item,
+                                   const std::vector<std::string>& newValues) noexcept {
+  return edit(file_, text_, [&](const Edit& edit) {
+    return edit.replaceAll({section, item}, newValues);
+  });
+}
+
 bool EditableFile::save() noexcept {
   return rememberingMistakes(file_,
                              [&] {

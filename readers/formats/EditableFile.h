@@ -43,6 +43,9 @@ public:
   bool removeElement(std::string_view section, std::string_view item, std::size_t index) noexcept;
   bool replaceElement(std::string_view section, std::string_view item, std::size_t index,
                       std::string_view newValue) noexcept;
+  // Each element by the new value of its place; one that stays the same keeps its spelling.
+  bool replaceElements(std::string_view section, std::string_view item,
+                       const std::vector<std::string>& newValues) noexcept;
 
   // Replaces the file as a whole or not at all, keeping its permissions; of a symbolic link, the
   // file that it leads to. Fails when the file is no longer what was opened or last saved. Without

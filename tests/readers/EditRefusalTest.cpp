@@ -112,6 +112,15 @@ TEST_F(EditRefusalTest, ElementThatIsNotThere) {
       "the list for \"f\" has 0 entries and none at place 0");
 }
 
+TEST_F(EditRefusalTest, MoreOrFewerElementsThanThereAre) {
+  expectRefused(
+      "[s]\nf = ['a']\n",
+      [](EditableFile& file) {
+        return file.replaceElements("s", "f", {"b", "c"});
+      },
+      "the list for \"f\" has 1 entries, and not 2");
+}
+
 // The parser takes the second mark for nothing, so what follows is not what it looks like.
 TEST_F(EditRefusalTest, EditThatWouldNotHoldWhatItShould) {
   expectRefused("\xEF\xBB\xBF\xEF\xBB\xBF[s]\na = 1\n", add,

@@ -74,6 +74,17 @@ TEST_F(EditTextTest, ElementIsReplacedWhereItStands) {
       "[s]\nf = ['x', 'X', \"y\"]\n");
 }
 
+TEST_F(EditTextTest, AllElementsAreReplacedWhereTheyStand) {
+  expectEdit(
+      "[s]\nf = [ 'x', # one\n  'same',\n  'y' ]\n",
+      [](EditableFile& file) {
+        return file.replaceElements("s", "f", {"a", "same", "b"});
+      },
+      "[s]\nf = [ \"a\", # one\n  'same',\n  \"b\" ]\n");
+  expectEdit(
+      "[s]\n", [](EditableFile& file) { return file.replaceElements("s", "f", {}); }, "[s]\n");
+}
+
 TEST_F(EditTextTest, WhatNeedsEscapingIsEscaped) {
   expectEdit(
       "",

@@ -1,5 +1,6 @@
 #include "tools/tervix/changes/OpenFormats.h"
 
+#include <algorithm>
 #include <array>
 
 #include "readers/formats/Mistake.h"
@@ -65,10 +66,9 @@ std::vector<std::string> OpenFormatFile::list(const char* section, const char* i
 
 void OpenFormatFile::replaceAll(const char* section, const char* item,
                                 const std::function<std::string(const std::string&)>& newText) {
-  const std::vector<std::string> elements = list(section, item);
-  for (std::size_t i = 0; i < elements.size(); ++i)
-    if (const std::string text = newText(elements[i]); text != elements[i])
-      require(file_.replaceElement(section, item, i, text));
+  std::vector<std::string> elements = list(section, item);
+  std::transform(elements.begin(), elements.end(), elements.begin(), newText);
+  require(file_.replaceElements(section, item, elements));
 }
 
 void OpenFormatFile::removeMatching(const char* section, const char* item,

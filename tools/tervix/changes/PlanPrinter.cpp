@@ -1,5 +1,7 @@
 #include "tools/tervix/changes/PlanPrinter.h"
 
+#include <set>
+
 #include "tools/tervix/Json.h"
 #include "tools/tervix/Printable.h"
 
@@ -15,16 +17,14 @@ struct Step {
 // The steps of a plan in order; what moves is told as a move, not as a copy and a removal.
 std::vector<Step> stepsOf(const ChangePlan& plan) {
   std::vector<Step> steps;
-  std::vector<std::string> moved;
-  const auto isRemoved = [&](const std::string& path) {
-    return std::find(plan.removed.begin(), plan.removed.end(), path) != plan.removed.end();
-  };
+  const std::set<std::string> removed(plan.removed.begin(), plan.removed.end());
+  std::set<std::string> moved;
   for (const std::string& folder : plan.madeFolders)
     steps.push_back({"make folder", folder, ""});
   for (const ChangePlan::Made& made : plan.made) {
-    if (isRemoved(made.source)) {
+    if (removed.count(made.source) != 0) {
       steps.push_back({made.isCopy ? "move" : "move and rewrite", made.path, made.source});
-      moved.push_back(made.source);
+      moved.insert(made.source);
     } else {
       const char* copied = made.isCopy ? "copy" : "copy and rewrite";
       steps.push_back({made.source.empty() ? "make" : copied, made.path, made.source});
@@ -33,7 +33,7 @@ std::vector<Step> stepsOf(const ChangePlan& plan) {
   for (const ChangePlan::Rewritten& file : plan.rewritten)
     steps.push_back({"rewrite", file.path, ""});
   for (const std::string& path : plan.removed)
-    if (std::find(moved.begin(), moved.end(), path) == moved.end())
+    if (moved.count(path) == 0)
       steps.push_back({"remove", path, ""});
   for (const std::string& folder : plan.removedFolders)
     steps.push_back({"remove folder", folder, ""});
