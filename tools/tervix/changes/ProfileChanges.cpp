@@ -80,8 +80,9 @@ void requireNothingThere(const ProjectLayout& layout, const std::string& schemat
       formerName.empty() ? paths : allPaths(layout.placesOf(schematic, formerName), layout);
   for (std::size_t i = 0; i < paths.size(); ++i)
     if (isThere(paths[i]) && (formerName.empty() || !platform::isSameEntry(paths[i], former[i])))
-      throw Failure(inQuotes(paths[i]) +
-                    " is there already and would become part of the new profile");
+      throw Failure(
+          inQuotes(paths[i]) +
+          " is there already and would become part of the new profile; nothing was changed");
 }
 
 // What a profile is called in its ".sim" file decides where the library looks for its files.
