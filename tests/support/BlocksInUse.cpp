@@ -18,6 +18,13 @@ void* operator new(std::size_t size) {
   return block;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  void* const block = std::malloc(size);
+  if (block != nullptr)
+    ++blocks;
+  return block;
+}
+
 void operator delete(void* block) noexcept {
   if (block != nullptr)
     --blocks;

@@ -1,7 +1,6 @@
 #include "tools/tervix/changes/Renaming.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <set>
 
@@ -12,6 +11,7 @@
 #include "tools/tervix/changes/OpenFormats.h"
 #include "tools/tervix/changes/ProjectCheck.h"
 #include "tools/tervix/changes/References.h"
+#include "tools/tervix/changes/SoughtNames.h"
 
 namespace tervix::tool {
 namespace {
@@ -20,18 +20,6 @@ namespace fs = std::filesystem;
 
 std::string folderOf(const std::string& path) {
   return fs::path(path).parent_path().generic_string();
-}
-
-// Whether a text holds a word that no character of a file name extends.
-bool holdsWord(const std::string& text, const std::string& word) {
-  const auto extends = [&](std::size_t place) {
-    const auto c = static_cast<unsigned char>(place < text.size() ? text[place] : ' ');
-    return std::isalnum(c) != 0 || c == '-' || c == '_' || c == '.';
-  };
-  for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; ++at)
-    if ((at == 0 || !extends(at - 1)) && !extends(at + word.size()))
-      return true;
-  return false;
 }
 
 void mapAll(PathMap& map, const std::vector<std::string>& from,
@@ -287,20 +275,19 @@ void Renaming::planMovedFiles(ChangePlan& plan) const {
 // A netlist says where the simulator writes; copied as it is, it still names the former files. Who
 // runs it writes it anew first, as front ends do, or the results of the original are gone.
 void Renaming::remarkNetlists(ChangePlan& plan) const {
+  SoughtNames former;
+  for (const auto& [file, newFile] : map_.files())
+    if (const std::string name = fs::path(file).filename().string();
+        name != fs::path(newFile).filename().string() && isThere(file))
+      former.add(name);
   for (const ChangePlan::Made& made : plan.made) {
     if (!made.isCopy || fs::path(made.path).extension() != ".cir" ||
         !fs::is_regular_file(made.source))
       continue;
-    const std::string text = contentOf(made.source);
-    for (const auto& [file, newFile] : map_.files()) {
-      const std::string name = fs::path(file).filename().string();
-      if (name != fs::path(newFile).filename().string() && isThere(file) && holdsWord(text, name)) {
-        plan.remarks.push_back(
-            {"netlist", made.path,
-             "it still names \"" + name + "\"; have it written anew before the next run"});
-        break;
-      }
-    }
+    if (const std::string name = former.firstIn(contentOf(made.source)); !name.empty())
+      plan.remarks.push_back(
+          {"netlist", made.path,
+           "it still names \"" + name + "\"; have it written anew before the next run"});
   }
 }
 
