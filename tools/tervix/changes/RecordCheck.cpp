@@ -1,6 +1,7 @@
 #include "tools/tervix/changes/RecordCheck.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <set>
@@ -147,10 +148,10 @@ private:
 
 // The library rewrites these lines of a ".sim" file before the plan brings it to what it is to be.
 bool isLibrarysLine(const std::string& line) {
-  for (const std::string key : {"NetlistFile", "ProjectFile"})
-    if (isSameName(line.substr(0, key.size()), key))
-      return true;
-  return false;
+  const std::array<std::string, 2> keys = {"NetlistFile", "ProjectFile"};
+  return std::any_of(keys.begin(), keys.end(), [&](const std::string& key) {
+    return isSameName(line.substr(0, key.size()), key);
+  });
 }
 
 bool differsByLibraryOnly(const std::string& text, const std::string& planned) {
