@@ -12,6 +12,7 @@ NAMES = ("chromium", "chromium-browser", "google-chrome")
 FLAGS = (
     "--headless=new", "--remote-debugging-pipe", "--disable-gpu", "--hide-scrollbars",
     "--no-first-run", "--disable-extensions", "--disable-background-networking",
+    "--no-sandbox",  # root cannot have one, nor can a user in most containers; the pages are ours
     "--disable-component-update", "--disable-sync", "--disable-dev-shm-usage", "--mute-audio",
 )
 
@@ -32,8 +33,6 @@ class Browser:
         to_browser, self._out = os.pipe()
         self._in, from_browser = os.pipe()
         command = [find_browser(), *FLAGS, f"--user-data-dir={self.folder}", "about:blank"]
-        if os.geteuid() == 0:
-            command.insert(1, "--no-sandbox")  # which root cannot have
 
         def keep_pipes():
             first, second = os.dup(to_browser), os.dup(from_browser)
