@@ -38,16 +38,6 @@ std::string newRootIn(const std::string& archive, const ProjectLayout& layout) {
                                 : archive + "/" + fs::path(rootOf(layout)).filename().string();
 }
 
-// A copy keeps the time of its original, by which a front end tells which results are up to date.
-void keepTimes(const std::vector<ChangePlan::Made>& made) {
-  for (const ChangePlan::Made& file : made) {
-    std::error_code error; // some file systems keep no times
-    const fs::file_time_type time = fs::last_write_time(file.source, error);
-    if (!error)
-      fs::last_write_time(file.path, time, error);
-  }
-}
-
 class Archiving {
 public:
   Archiving(CTervixProject& project, const std::string& folder)
@@ -68,10 +58,9 @@ public:
     plan.isElsewhere = true;
     planFiles(plan);
     plan.remarks = files_.remarks();
-    plan.check = [made = plan.made, file = plan.projectFile, view = view_, paths = paths_] {
+    plan.check = [file = plan.projectFile, view = view_, paths = paths_] {
       requireArchived(view, file,
                       [&](const NamedPath& named) { return paths(paths.placeOf(named)); });
-      keepTimes(made);
     };
     return plan;
   }

@@ -52,13 +52,14 @@ void removeFolder(const std::string& path, Remaining remaining) {
 }
 
 // What is new may be read by nobody else than what it comes from, and a copy is as old, by which a
-// front end tells which results are up to date. Some file systems keep neither.
-void takeAttributes(const ChangePlan::Made& made) {
+// front end tells which results are up to date; in an archive all is. Some file systems keep
+// neither.
+void takeAttributes(const ChangePlan::Made& made, bool isElsewhere) {
   if (made.source.empty() || fs::is_symlink(made.path))
     return;
   std::error_code ignored;
   fs::permissions(made.path, fs::status(made.source).permissions(), ignored);
-  if (made.isCopy || haveSameContent(made.source, made.path))
+  if (isElsewhere || made.isCopy || haveSameContent(made.source, made.path))
     fs::last_write_time(made.path, fs::last_write_time(made.source), ignored);
 }
 
@@ -76,7 +77,7 @@ void takeFolderPermissions(const ChangeRecord& record) {
 }
 
 // Brings a new file to what it is to be, whatever the library made of it.
-void complete(const ChangePlan::Made& made) {
+void complete(const ChangePlan::Made& made, bool isElsewhere) {
   if (!made.isCopy) {
     if (contentOf(made.path) != made.content)
       writeFile(made.path, made.content);
@@ -86,7 +87,7 @@ void complete(const ChangePlan::Made& made) {
   } else if (!isThere(made.path) || !haveSameContent(made.source, made.path)) {
     copyFile(made.source, made.path);
   }
-  takeAttributes(made);
+  takeAttributes(made, isElsewhere);
 }
 
 void restore(const ChangePlan::Rewritten& file, const ChangeRecord::Former& former) {
@@ -116,7 +117,7 @@ void makeFiles(const ChangeRecord& record, const ChangePlan& plan) {
   for (const ChangePlan::Made& made : plan.made) {
     if (plan.progress)
       plan.progress(made);
-    complete(made);
+    complete(made, plan.isElsewhere);
   }
   takeFolderPermissions(record);
   if (const Left left = removeScratch(record); !left.empty())
