@@ -82,19 +82,21 @@ void GeneratedProject::writeProfile(int schematicIndex, int profileIndex) const 
   const std::string stem = sim.stem().string();
   const bool hasFolder = layout_.type == PROJECT_TYPE_SIMULATION;
   const std::string beside = hasFolder ? "./" + stem + "/" + stem : stem;
-  writeFile(sim,
-            keyLine("ProfileName", profile(profileIndex)) + keyLine("ProfileFile", stem + ".sim") +
-                keyLine("DesignFile", hasFolder ? "" : "prj.dsn") +
-                keyLine("ProjectFile", hasFolder ? "" : "prj.tvp") +
-                keyLine("RootSchematics", schematic(schematicIndex)) +
-                keyLine("NetlistFile", stem + ".sim.cir") + keyLine("DataFile", beside + ".dat") +
-                keyLine("OutFile", beside + ".out") + keyLine("Analysis", "tran 1us 2ms"));
+  writeFile(sim, keyLine("ProfileName", profile(profileIndex)) +
+                     keyLine("ProfileFile", stem + ".sim") +
+                     keyLine("DesignFile", hasFolder ? "" : "prj.dsn") +
+                     keyLine("ProjectFile", hasFolder ? "" : "prj.tvp") +
+                     keyLine("RootSchematics", schematic(schematicIndex)) +
+                     keyLine("NetlistFile", stem + (hasFolder ? ".cir" : ".sim.cir")) +
+                     keyLine("DataFile", beside + ".dat") + keyLine("OutFile", beside + ".out") +
+                     keyLine("Analysis", "tran 1us 2ms"));
   if (!hasFolder)
     return;
   const fs::path own = sim.parent_path() / stem;
   fs::create_directories(own);
   writeFile(own / (stem + "_profile.inc"),
             ".INC\t\".\\load.inc\" \n.LIB\t\"..\\..\\models.lib\" \n");
+  writeFile(own / "load.inc", "Rload out 0 1k\n");
   if (size_.runBytes > 0)
     for (const char* suffix : {".dat", ".out", ".cir", ".mrk"})
       writeFile(own / (stem + suffix), std::string(static_cast<std::size_t>(size_.runBytes), 'x'));
@@ -111,6 +113,14 @@ std::string GeneratedProject::projectText() const {
   return text + "]\nActive = \"SCH0-" + profile(0) + "\"\n";
 }
 
+// That of the project, and that of the include lists, seen from the folders of their profiles.
+void GeneratedProject::writeLibraries() const {
+  const std::string text = ".model fast D(Is=1f)\n";
+  writeFile(projectFolder() + "/models.lib", text);
+  if (layout_.type == PROJECT_TYPE_SIMULATION)
+    writeFile(fs::path(simFile(0, 0)).parent_path().parent_path() / "models.lib", text);
+}
+
 void GeneratedProject::write() const {
   fs::create_directories(projectFolder());
   std::string names;
@@ -121,6 +131,7 @@ void GeneratedProject::write() const {
   writeFile(projectFolder() + "/prj.dsn",
             "[Design]\nSchematics = [" + names + "]\nRoot = \"" + schematic(0) + "\"\n");
   writeFile(projectFile(), projectText());
+  writeLibraries();
   for (int s = 0; s < size_.schematics; ++s)
     for (int p = 0; p < size_.profiles; ++p)
       writeProfile(s, p);

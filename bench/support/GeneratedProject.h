@@ -42,6 +42,7 @@ private:
   std::string projectFolder() const;
   std::string padded(std::string name) const;
   std::string projectText() const;
+  void writeLibraries() const;
   void writeProfile(int schematicIndex, int profileIndex) const;
 
   std::string folder_;

@@ -13,6 +13,7 @@
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/check/Checkers.h"
 #include "tools/tervix/check/Paths.h"
+#include "tools/tervix/check/ReadAhead.h"
 
 namespace tervix::tool {
 namespace {
@@ -47,6 +48,15 @@ std::string fullPathOf(const std::string& file) {
   return fs::absolute(forward).lexically_normal().generic_string();
 }
 
+std::vector<Finding> findingsIn(ProjectFacts& facts, Progress& progress) {
+  progress.tell("comparing files", facts.references.size() + facts.sims.size());
+  Findings findings(facts.layout);
+  for (const auto checker : kCheckers)
+    checker(facts, findings);
+  progress.clear();
+  return findings.sorted();
+}
+
 } // namespace
 
 void Findings::add(Code code, const Place& place, std::string message, Repair repair) {
@@ -77,16 +87,6 @@ std::vector<Finding> Findings::sorted() const {
   return findings;
 }
 
-std::vector<Finding> checkProject(CTervixProject& project, Progress& progress) {
-  ProjectFacts facts = gatherFacts(project, progress);
-  progress.tell("comparing files", facts.references.size() + facts.sims.size());
-  Findings findings(facts.layout);
-  for (const auto checker : kCheckers)
-    checker(facts, findings);
-  progress.clear();
-  return findings.sorted();
-}
-
 void requireCheckable(const std::string& file) {
   if (std::error_code error; !fs::is_regular_file(fullPathOf(file), error))
     throw Failure(inQuotes(file) + " is not a file that is there", kWrongUsage);
@@ -96,6 +96,7 @@ CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, P
   CheckedProject checked;
   checked.path = fullPathOf(file);
   requireCheckable(file);
+  ReadAhead ahead(checked.path);
   try {
     checked.project = &openProject(file, frontEnd);
   } catch (const Failure& failure) {
@@ -105,7 +106,8 @@ CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, P
     return checked;
   }
   checked.project->getPath(checked.path);
-  checked.findings = checkProject(*checked.project, progress);
+  ProjectFacts facts = gatherFacts(*checked.project, ahead, progress);
+  checked.findings = findingsIn(facts, progress);
   return checked;
 }
 

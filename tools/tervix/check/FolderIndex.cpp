@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
+#include <iterator>
 #include <tuple>
 
 #include "foundation/platform/Platform.h"
@@ -55,17 +54,38 @@ FolderIndex::Entry entryOf(const std::string& folder, platform::FolderEntry& lis
 
 } // namespace
 
-FolderIndex::Folder FolderIndex::listed(const std::string& path) {
-  Folder folder;
+FolderIndex::Folder listedFolder(const std::string& path) {
+  FolderIndex::Folder folder;
   auto entries = platform::listFolder(path);
   folder.isListed = entries.has_value();
   for (platform::FolderEntry& entry : entries ? *entries : std::vector<platform::FolderEntry>())
     if (entry.name != "." && entry.name != "..")
       folder.entries.push_back(entryOf(path, entry));
-  std::sort(folder.entries.begin(), folder.entries.end(), [](const Entry& a, const Entry& b) {
-    return std::tie(a.key, a.name) < std::tie(b.key, b.name);
-  });
+  std::sort(folder.entries.begin(), folder.entries.end(),
+            [](const FolderIndex::Entry& a, const FolderIndex::Entry& b) {
+              return std::tie(a.key, a.name) < std::tie(b.key, b.name);
+            });
   return folder;
+}
+
+std::optional<std::string> readText(const std::string& path, std::size_t most) {
+  std::array<char, 16384> block; // NOLINT(cppcoreguidelines-pro-type-member-init)
+  std::string text;
+  platform::FileReader reader;
+  std::optional<std::size_t> count;
+  if (reader.open(path, block.data(), block.size(), count) !=
+      platform::FileReader::Opening::kOpened)
+    return std::nullopt;
+  while (count && *count != 0 && text.size() <= most) {
+    text.append(block.data(), *count);
+    count = reader.isAtEnd() ? 0 : reader.read(block.data(), block.size());
+  }
+  return count && text.size() <= most ? std::optional(std::move(text)) : std::nullopt;
+}
+
+void FolderIndex::take(FetchedFolders fetched) {
+  folders_.merge(fetched.folders);
+  texts_.merge(fetched.texts);
 }
 
 const FolderIndex::Folder& FolderIndex::folderAt(std::string_view path) {
@@ -73,8 +93,9 @@ const FolderIndex::Folder& FolderIndex::folderAt(std::string_view path) {
     return *last_;
   lastPath_ = path;
   const auto found = folders_.find(lastPath_);
-  last_ = found != folders_.end() ? &found->second
-                                  : &folders_.emplace(lastPath_, listed(lastPath_)).first->second;
+  last_ = found != folders_.end()
+              ? &found->second
+              : &folders_.emplace(lastPath_, listedFolder(lastPath_)).first->second;
   return *last_;
 }
 
@@ -83,10 +104,13 @@ const FolderIndex::Folder& FolderIndex::folder(const std::string& path) {
 }
 
 void FolderIndex::listAhead(const std::vector<std::string>& paths) {
-  std::vector<Folder> folders(paths.size());
-  inParallel(paths.size(), [&](std::size_t i) { folders[i] = listed(paths[i]); });
-  for (std::size_t i = 0; i < paths.size(); ++i)
-    folders_.emplace(paths[i], std::move(folders[i]));
+  std::vector<std::string> unknown;
+  std::copy_if(paths.begin(), paths.end(), std::back_inserter(unknown),
+               [&](const std::string& path) { return folders_.count(path) == 0; });
+  std::vector<Folder> folders(unknown.size());
+  inParallel(unknown.size(), [&](std::size_t i) { folders[i] = listedFolder(unknown[i]); });
+  for (std::size_t i = 0; i < unknown.size(); ++i)
+    folders_.emplace(unknown[i], std::move(folders[i]));
 }
 
 bool FolderIndex::isOwn(const std::string& path) const {
@@ -163,30 +187,17 @@ bool FolderIndex::isDirectlyIn(const std::string& path, const std::string& folde
          realPathOf(path) == realFolder(folder) + path.substr(folder.size());
 }
 
-std::optional<std::string> readText(const std::string& path) {
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
-                                                             &std::fclose);
-  if (!file)
-    return std::nullopt;
-  // Read straight into our own block: most of these files are small and many.
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);
-  std::array<char, 16384> block; // NOLINT(cppcoreguidelines-pro-type-member-init)
-  std::string text;
-  while (const std::size_t size = std::fread(block.data(), 1, block.size(), file.get())) {
-    text.append(block.data(), size);
-    if (text.size() > kLargestText)
-      return std::nullopt;
-    if (size < block.size())
-      break;
-  }
-  return std::ferror(file.get()) == 0 ? std::optional(std::move(text)) : std::nullopt;
+std::optional<std::string> FolderIndex::text(const std::string& path) const {
+  const auto fetched = texts_.find(path);
+  return fetched != texts_.end() ? fetched->second : readText(path, kLargestText);
 }
 
-std::vector<std::optional<std::string>> readTexts(const std::vector<std::string>& paths) {
+std::vector<std::optional<std::string>>
+FolderIndex::texts(const std::vector<std::string>& paths) const {
   std::vector<std::optional<std::string>> texts(paths.size());
   inParallel(paths.size(), [&](std::size_t i) {
     if (!paths[i].empty())
-      texts[i] = readText(paths[i]);
+      texts[i] = text(paths[i]);
   });
   return texts;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +10,8 @@
 namespace tervix::tool {
 
 enum class EntryType { kMissing, kFile, kFolder, kOther };
+
+struct FetchedFolders;
 
 // What stands on disk, each folder listed once: a project of thousands of profiles is asked about
 // without a call to the system for every file.
@@ -29,6 +32,9 @@ public:
   // Folders below root are listed; of files elsewhere each is asked for by itself.
   explicit FolderIndex(std::string root) : root_(std::move(root)) {}
 
+  // What was read before it was asked for.
+  void take(FetchedFolders fetched);
+
   const Folder& folder(const std::string& path);
   // Lists many at once, which is faster.
   void listAhead(const std::vector<std::string>& paths);
@@ -43,8 +49,12 @@ public:
   // The same for every path that leads to one file; the path itself where nothing is there.
   std::string realPathOf(const std::string& path);
 
+  // The bytes of a file; none when it cannot be read, or is larger than a text that people write.
+  std::optional<std::string> text(const std::string& path) const;
+  // Reads a number of files, many at once; a path that is empty is passed over.
+  std::vector<std::optional<std::string>> texts(const std::vector<std::string>& paths) const;
+
 private:
-  static Folder listed(const std::string& path);
   const Folder& folderAt(std::string_view path);
   const Entry* entryAt(const std::string& path);
   const std::string& realFolder(const std::string& path);
@@ -52,6 +62,7 @@ private:
 
   std::string root_;
   std::unordered_map<std::string, Folder> folders_;
+  std::unordered_map<std::string, std::string> texts_; // that were fetched
   // The folder that was asked for last: files are asked for folder by folder.
   std::string lastPath_;
   const Folder* last_ = nullptr;
@@ -59,9 +70,14 @@ private:
   std::unordered_map<std::string, std::string> realFolders_;
 };
 
-// The bytes of a file; none when it cannot be read, or is larger than a text that people write.
-std::optional<std::string> readText(const std::string& path);
-// Does that for a number of files, many at once; a path that is empty is passed over.
-std::vector<std::optional<std::string>> readTexts(const std::vector<std::string>& paths);
+// What has been read already, by full path.
+struct FetchedFolders {
+  std::unordered_map<std::string, FolderIndex::Folder> folders;
+  std::unordered_map<std::string, std::string> texts;
+};
+
+FolderIndex::Folder listedFolder(const std::string& path);
+// None when the file cannot be read, or has more bytes than the most.
+std::optional<std::string> readText(const std::string& path, std::size_t most);
 
 } // namespace tervix::tool

@@ -42,7 +42,7 @@ void gatherIncludeLists(ProjectFacts& facts, Progress& progress) {
   std::vector<std::string> paths;
   for (const LoadedProfile& profile : facts.loaded)
     paths.push_back(facts.index.isFile(profile.includeList) ? profile.includeList : std::string());
-  const auto texts = readTexts(paths);
+  const auto texts = facts.index.texts(paths);
   for (std::size_t i = 0; i < paths.size(); ++i) {
     const LoadedProfile& profile = facts.loaded[i];
     if (texts[i]) {

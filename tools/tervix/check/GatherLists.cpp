@@ -1,4 +1,5 @@
 #include <array>
+#include <string_view>
 
 #include "readers/formats/Texts.h"
 #include "tools/tervix/check/Gathering.h"
@@ -9,8 +10,8 @@ namespace {
 
 // What the project file says about files; front end 1 reads the resources alone.
 struct Item {
-  const char* section;
-  const char* item;
+  std::string_view section;
+  std::string_view item;
   Role role;
   bool isForFrontEnd1;
 };

@@ -24,7 +24,7 @@ public:
       std::vector<std::string> paths;
       for (; read < files_.size(); ++read)
         paths.push_back(files_[read].path);
-      const auto texts = readTexts(paths);
+      const auto texts = facts_.index.texts(paths);
       for (std::size_t i = 0; i < texts.size(); ++i)
         takeText(first + i, texts[i]);
     }

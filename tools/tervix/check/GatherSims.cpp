@@ -4,6 +4,7 @@
 #include "tools/tervix/changes/NamedPath.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Gathering.h"
+#include "tools/tervix/check/InParallel.h"
 #include "tools/tervix/check/Paths.h"
 
 namespace tervix::tool {
@@ -13,7 +14,8 @@ namespace {
 constexpr std::array<SimKey, 3> kPathKeys = {SimKey::kNetlistFile, SimKey::kDataFile,
                                              SimKey::kOutFile};
 
-void takeText(SimFile& sim, const std::optional<std::string>& text) {
+void readKeys(const FolderIndex& index, SimFile& sim) {
+  const std::optional<std::string> text = sim.isThere ? index.text(sim.path) : std::nullopt;
   sim.isRead = text.has_value();
   if (!text)
     return;
@@ -93,13 +95,8 @@ void gatherSims(ProjectFacts& facts, Progress& progress) {
     gathering.takeFound(facts.layout.folder);
   for (const std::string& folder : facts.schematicFolders)
     gathering.takeFound(folder);
-  std::vector<std::string> paths;
-  for (const SimFile& sim : facts.sims)
-    paths.push_back(sim.isThere ? sim.path : std::string());
-  progress.tell("reading profiles", paths.size());
-  const auto texts = readTexts(paths);
-  for (std::size_t i = 0; i < facts.sims.size(); ++i)
-    takeText(facts.sims[i], texts[i]);
+  progress.tell("reading profiles", facts.sims.size());
+  inParallel(facts.sims.size(), [&](std::size_t i) { readKeys(facts.index, facts.sims[i]); });
   if (facts.isFrontEnd2() && !facts.layout.isSimulation())
     removeForeign(facts);
   for (const SimFile& sim : facts.sims)

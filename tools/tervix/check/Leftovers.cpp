@@ -17,14 +17,14 @@ constexpr const char* kFilesFolderEnding = "-TervixFiles";
 // How every file begins that the tool or the library makes for the time of a change.
 constexpr const char* kWorkPrefix = ".tervix-";
 
-bool holdsText(const std::string& path) {
-  const auto text = readText(path);
+bool holdsText(const FolderIndex& index, const std::string& path) {
+  const auto text = index.text(path);
   return text && !text->empty();
 }
 
 // Whether a file has all that its kind needs.
 bool isWhole(ProjectFacts& facts, const std::string& path) {
-  if (!facts.index.isFile(path) || !holdsText(path))
+  if (!facts.index.isFile(path) || !holdsText(facts.index, path))
     return false;
   if (endsWith(path, ".sim")) {
     const auto sim = std::find_if(facts.sims.begin(), facts.sims.end(),

@@ -72,12 +72,13 @@ ProfileNames namesOf(const ProjectFacts& facts, const SimFile& sim) {
   return names;
 }
 
-ProjectFacts gatherFacts(CTervixProject& project, Progress& progress) {
+ProjectFacts gatherFacts(CTervixProject& project, ReadAhead& ahead, Progress& progress) {
   const ProjectLayout layout = layoutOf(project);
   ProjectFacts facts(layout.hasDesignFile() ? layout.folder : folderOf(layout.folder));
   facts.layout = layout;
   gatherLists(facts);
   gatherTree(facts, project);
+  facts.index.take(ahead.take());
   gatherFolders(facts, progress);
   gatherSims(facts, progress);
   gatherIncludeLists(facts, progress);

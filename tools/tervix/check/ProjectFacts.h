@@ -11,6 +11,7 @@
 #include "tools/tervix/changes/ProjectLayout.h"
 #include "tools/tervix/changes/SimText.h"
 #include "tools/tervix/check/FolderIndex.h"
+#include "tools/tervix/check/ReadAhead.h"
 
 namespace tervix::tool {
 
@@ -136,6 +137,6 @@ std::string reasonAgainstProfile(const ProjectFacts& facts, const SimFile& sim);
 ProfileNames namesOf(const ProjectFacts& facts, const SimFile& sim);
 
 // Opens nothing for writing, and asks the library nothing that does.
-ProjectFacts gatherFacts(CTervixProject& project, Progress& progress);
+ProjectFacts gatherFacts(CTervixProject& project, ReadAhead& ahead, Progress& progress);
 
 } // namespace tervix::tool

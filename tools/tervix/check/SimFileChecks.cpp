@@ -1,7 +1,7 @@
 #include <filesystem>
 #include <set>
-#include <tuple>
 #include <unordered_set>
+#include <utility>
 
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/NamedPath.h"
@@ -123,13 +123,18 @@ private:
   std::unordered_set<std::string> profiles_; // by their names
 };
 
-// Lists in which an entry once is enough; the profiles are told with their files.
+// Lists in which an entry once is enough; the profiles are told with their files. What one file
+// names stands together.
 void checkLists(const ProjectFacts& facts, Findings& findings) {
-  std::set<std::tuple<Role, std::string, std::string>> seen;
+  std::set<std::pair<Role, std::string>> seen;
+  const std::string* file = nullptr;
   for (const Reference& reference : facts.references) {
+    if (file == nullptr || *file != reference.place.file)
+      seen.clear();
+    file = &reference.place.file;
     const bool isList = reference.role == Role::kLibrary || reference.role == Role::kStimulus ||
                         reference.role == Role::kInclude;
-    if (isList && !seen.emplace(reference.role, reference.place.file, reference.target).second)
+    if (isList && !seen.emplace(reference.role, reference.target).second)
       findings.add(Code::kListedTwice, reference.place,
                    inQuotes(reference.text) + " is listed already");
   }

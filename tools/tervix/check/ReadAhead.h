@@ -1,0 +1,37 @@
+#pragma once
+
+#include <atomic>
+#include <future>
+#include <string>
+#include <vector>
+
+#include "tools/tervix/check/FolderIndex.h"
+
+namespace tervix::tool {
+
+// Fetches what a check is going to ask the disk for while the library opens the project: the
+// folders of its files, and the small files of profiles there.
+class ReadAhead {
+public:
+  // For a file that is none of a project there is nothing to fetch.
+  explicit ReadAhead(const std::string& projectFile);
+  ~ReadAhead();
+  ReadAhead(const ReadAhead&) = delete;
+  ReadAhead& operator=(const ReadAhead&) = delete;
+
+  // What there is by now; the rest is faster fetched by several threads.
+  FetchedFolders take();
+
+private:
+  void stop();
+  void fetch(std::size_t most);
+  void fetchFolder(const std::string& path);
+
+  FetchedFolders fetched_;
+  std::vector<std::string> toList_;
+  std::size_t textSize_ = 0;
+  std::atomic<bool> isStopped_{false};
+  std::future<void> rest_;
+};
+
+} // namespace tervix::tool
