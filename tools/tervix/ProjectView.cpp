@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <list>
+#include <unordered_set>
 #include <utility>
 
 #include <tvx_wobj.h>
@@ -79,12 +80,12 @@ SchematicView viewOf(CTervixSchematic& schematic) {
   return view;
 }
 
-bool isInTree(const std::vector<SchematicView>& schematics, const std::string& sim) {
+std::unordered_set<std::string> simsOf(const std::vector<SchematicView>& schematics) {
+  std::unordered_set<std::string> sims;
   for (const SchematicView& schematic : schematics)
     for (const ProfileView& profile : schematic.profiles)
-      if (profile.sim.place == sim)
-        return true;
-  return false;
+      sims.insert(profile.sim.place);
+  return sims;
 }
 
 // The profile files that the project file lists and that the library passed over, as they are not
@@ -97,8 +98,9 @@ std::vector<FileView> unusedProfiles(const std::string& projectFile, const std::
   std::vector<FileView> passedOver;
   if (readSimProfiles(projectFile, listed, unused, active, true) != 0)
     return passedOver;
+  const auto sims = simsOf(schematics);
   for (const std::string& path : listed)
-    if (FileView file = namedFile("sim", path, folder); !isInTree(schematics, file.place))
+    if (FileView file = namedFile("sim", path, folder); sims.count(file.place) == 0)
       passedOver.push_back(std::move(file));
   return passedOver;
 }
