@@ -71,6 +71,13 @@ bool isSameName(std::string_view a, std::string_view b) {
                     [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
+std::string lowered(std::string_view text) {
+  std::string result(text);
+  for (char& c : result)
+    c = lowered(c);
+  return result;
+}
+
 void requireUsableName(const std::string& name, const char* what) {
   if (const char* reason = reasonAgainst(name))
     throw Failure("a " + std::string(what) + " cannot be named " + inQuotes(name) + ": " + reason);

@@ -15,5 +15,7 @@ const char* reasonAgainstOnWindows(const std::string& fileName);
 
 // Whether two names are the same to a file system that ignores case.
 bool isSameName(std::string_view a, std::string_view b);
+// In lower case, as far as isSameName goes.
+std::string lowered(std::string_view text);
 
 } // namespace tervix::tool

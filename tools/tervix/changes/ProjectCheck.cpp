@@ -1,7 +1,5 @@
 #include "tools/tervix/changes/ProjectCheck.h"
 
-#include <algorithm>
-
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/OpenedProject.h"
 #include "tools/tervix/changes/Names.h"
@@ -27,6 +25,13 @@ std::string described(const std::string& schematic, const std::string& profile) 
   return text;
 }
 
+ExpectedTree inLowerCase(const ExpectedTree& tree) {
+  ExpectedTree lower;
+  for (const auto& [schematic, profile] : tree)
+    lower.insert({lowered(schematic), lowered(profile)});
+  return lower;
+}
+
 } // namespace
 
 void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
@@ -35,14 +40,10 @@ void requireTree(const std::string& projectFile, FRONTEND_ID frontEnd,
   // Front end 1 finds its profiles on disk, those that are still to be removed among them, and of
   // two that differ in case either one.
   const bool isExact = frontEnd == FRONTEND_ID_DESIGN_FILE;
-  const auto isFound = [&](const std::string& schematic, const std::string& profile) {
-    return std::any_of(found.begin(), found.end(), [&](const auto& entry) {
-      return isExact ? entry.first == schematic && entry.second == profile
-                     : isSameName(entry.first, schematic) && isSameName(entry.second, profile);
-    });
-  };
+  const ExpectedTree foundInAnyCase = isExact ? ExpectedTree() : inLowerCase(found);
   for (const auto& [schematic, profile] : expected)
-    if (!isFound(schematic, profile))
+    if (isExact ? found.count({schematic, profile}) == 0
+                : foundInAnyCase.count({lowered(schematic), lowered(profile)}) == 0)
       throw Failure("the changed project would lack " + described(schematic, profile));
   if (isExact && found.size() != expected.size())
     throw Failure("the changed project would hold more than it should");

@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "foundation/platform/Platform.h"
+#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/InParallel.h"
 #include "tools/tervix/check/Paths.h"
 

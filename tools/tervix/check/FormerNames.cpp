@@ -4,6 +4,7 @@
 
 #include "model/FileSuffixes.h"
 #include "tools/tervix/Printable.h"
+#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Checkers.h"
 #include "tools/tervix/check/Paths.h"
 

@@ -3,15 +3,12 @@
 #include <algorithm>
 
 #include "tools/tervix/changes/NamedPath.h"
+#include "tools/tervix/changes/Names.h"
 
 namespace tervix::tool {
 namespace {
 
 constexpr std::string_view kSeparators = "/\\";
-
-char lowered(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 // Goes one step on from a full path without a separator at its end.
 void step(std::string& place, std::string_view part) {
@@ -45,18 +42,9 @@ std::string cutStemOf(const std::string& name) {
   return name.substr(0, name.find('.'));
 }
 
-std::string lowered(std::string_view text) {
-  std::string result(text);
-  for (char& c : result)
-    c = lowered(c);
-  return result;
-}
-
 bool endsWith(const std::string& text, std::string_view ending) {
   return text.size() >= ending.size() &&
-         std::equal(ending.begin(), ending.end(),
-                    text.end() - static_cast<std::ptrdiff_t>(ending.size()),
-                    [](char a, char b) { return lowered(a) == lowered(b); });
+         isSameName(std::string_view(text).substr(text.size() - ending.size()), ending);
 }
 
 std::string placeAt(const std::string& base, const std::string& text) {

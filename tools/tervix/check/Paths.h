@@ -13,7 +13,6 @@ std::string stemOf(const std::string& name);   // up to the last dot
 // What the library takes for the stem: up to the first dot.
 std::string cutStemOf(const std::string& name);
 
-std::string lowered(std::string_view text);
 bool endsWith(const std::string& text, std::string_view ending); // in any case
 
 // The full path that text means, seen from the folder base.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/platform/FileDetails.h"
+#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Paths.h"
 #include "tools/tervix/commands/ProgressLine.h"
 #include "tools/tervix/report/CurvesJson.h"
