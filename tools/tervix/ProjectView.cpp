@@ -55,6 +55,7 @@ ProfileView viewOf(CTervixProfile& profile) {
     for (; !file.empty(); profile.getNextProfileLevelFile(file, type))
       view.variants.push_back(namedFile(kind, file, view.folder));
   }
+  view.files.reserve(kProfileFileSuffixes.size());
   for (std::size_t type = 0; type < kProfileFileSuffixes.size(); ++type) {
     std::string file;
     if (profile.getProfileBasedFile(file, static_cast<PROFILEFILE_TYPE>(type)) == 0)

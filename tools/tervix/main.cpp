@@ -1,5 +1,6 @@
 #include <exception>
 #include <iostream>
+#include <new>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -102,6 +103,9 @@ int main(int argc, char** argv) {
   } catch (const Failure& failure) {
     std::cerr << "tervix: " << failure.what() << "\n";
     return failure.status();
+  } catch (const std::bad_alloc&) {
+    std::cerr << "tervix: there is not enough memory\n";
+    return kFailed;
   } catch (const std::exception& error) {
     std::cerr << "tervix: " << printable(error.what()) << "\n";
     return kFailed;

@@ -35,6 +35,7 @@ std::string seenFrom(const std::string& folder, const std::string& path) {
 std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
                        const std::string& schematic, const std::string& name) {
   const ProfilePlaces places = layout.placesOf(schematic, name);
+  const std::vector<std::string> files = layout.filesOf(schematic, name);
   const std::string folder = fs::path(places.sim).parent_path().generic_string();
   const auto fileName = [](const std::string& path) {
     return fs::path(path).filename().generic_string();
@@ -53,18 +54,20 @@ std::string simTextFor(const ProjectLayout& layout, const ProjectView& view,
     case SimKey::kProjectFile:
       return isPlaced ? "" : fileName(layout.projectFile);
     case SimKey::kNetlistFile:
-      return fileName(places.files[PROFILE_FILE_CIR]);
+      return fileName(files[PROFILE_FILE_CIR]);
     case SimKey::kDataFile:
-      return seenFrom(folder, places.files[PROFILE_FILE_DAT]);
+      return seenFrom(folder, files[PROFILE_FILE_DAT]);
     case SimKey::kOutFile:
-      return seenFrom(folder, places.files[PROFILE_FILE_OUT]);
+      return seenFrom(folder, files[PROFILE_FILE_OUT]);
     }
     return {};
   });
 }
 
-std::vector<std::string> allPaths(const ProfilePlaces& places, const ProjectLayout& layout) {
-  std::vector<std::string> paths = places.files;
+std::vector<std::string> allPaths(const ProjectLayout& layout, const std::string& schematic,
+                                  const std::string& name) {
+  const ProfilePlaces places = layout.placesOf(schematic, name);
+  std::vector<std::string> paths = layout.filesOf(schematic, name);
   paths.push_back(places.sim);
   if (layout.isSimulation())
     paths.push_back(places.folder);
@@ -75,9 +78,8 @@ std::vector<std::string> allPaths(const ProfilePlaces& places, const ProjectLayo
 // On a disk that ignores case it may be what is renamed.
 void requireNothingThere(const ProjectLayout& layout, const std::string& schematic,
                          const std::string& name, const std::string& formerName) {
-  const auto paths = allPaths(layout.placesOf(schematic, name), layout);
-  const auto former =
-      formerName.empty() ? paths : allPaths(layout.placesOf(schematic, formerName), layout);
+  const auto paths = allPaths(layout, schematic, name);
+  const auto former = formerName.empty() ? paths : allPaths(layout, schematic, formerName);
   for (std::size_t i = 0; i < paths.size(); ++i)
     if (isThere(paths[i]) && (formerName.empty() || !platform::isSameEntry(paths[i], former[i])))
       throw Failure(

@@ -89,11 +89,25 @@ ProfilePlaces ProjectLayout::placesOf(const std::string& schematic,
   node.getVariantFilePath(path);
   places.includeList = tree.placed(path);
   node.getDisplayName(places.displayName);
+  return places;
+}
+
+std::vector<std::string> ProjectLayout::filesOf(const std::string& schematic,
+                                                const std::string& profile) const {
+  ComposedTree tree(*this);
+  CTervixProfile& node = tree.profile(schematic, profile);
+  std::vector<std::string> files;
+  std::string path;
   for (std::size_t file = 0; file < kProfileFileSuffixes.size(); ++file) {
     node.getProfileBasedFile(path, static_cast<PROFILEFILE_TYPE>(file));
-    places.files.push_back(tree.placed(path));
+    files.push_back(tree.placed(path));
   }
-  return places;
+  return files;
+}
+
+bool ProjectLayout::placesAllLike(const ProjectLayout& other) const {
+  return frontEnd == other.frontEnd && type == other.type && project == other.project &&
+         design == other.design && folder == other.folder && designFolder == other.designFolder;
 }
 
 ProjectLayout layoutOf(CTervixProject& project) {

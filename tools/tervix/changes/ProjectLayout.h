@@ -7,10 +7,10 @@
 
 namespace tervix::tool {
 
-// Where the files of a schematic or profile lie; files are in the order of the enumerations.
+// Where the files of a schematic or profile lie.
 struct SchematicPlaces {
   std::string folder;
-  std::vector<std::string> files;
+  std::vector<std::string> files; // in the order of SCHEMATICFILE_TYPE
 };
 
 struct ProfilePlaces {
@@ -18,7 +18,6 @@ struct ProfilePlaces {
   std::string folder;
   std::string includeList; // empty where profiles have none
   std::string displayName; // empty where profiles have none
-  std::vector<std::string> files;
 };
 
 // The names and folders from which the place of every file of a project follows. Change a name,
@@ -37,6 +36,10 @@ struct ProjectLayout {
 
   SchematicPlaces placesOf(const std::string& schematic) const;
   ProfilePlaces placesOf(const std::string& schematic, const std::string& profile) const;
+  // The files of a profile, in the order of PROFILEFILE_TYPE.
+  std::vector<std::string> filesOf(const std::string& schematic, const std::string& profile) const;
+  // Whether every file of every schematic and profile has one place in both.
+  bool placesAllLike(const ProjectLayout& other) const;
 
   // Where all files of a simulation project for front end 2 lie.
   std::string filesFolder() const { return folder + "/" + project + "-TervixFiles"; }

@@ -1,5 +1,7 @@
 #include "tools/tervix/changes/RecordText.h"
 
+#include <utility>
+
 #include <nlohmann/json.hpp>
 
 namespace tervix::tool {
@@ -10,7 +12,7 @@ using Json = nlohmann::ordered_json;
 constexpr int kVersion = 1;
 constexpr const char* kHexDigits = "0123456789ABCDEF";
 
-std::string spelt(const std::string& bytes) {
+Json spelt(const std::string& bytes) {
   std::string text;
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);
@@ -35,11 +37,72 @@ std::string read(const Json& json) {
   return bytes;
 }
 
-Json listOf(const std::vector<std::string>& texts) {
-  Json list = Json::array();
-  for (const std::string& text : texts)
-    list.push_back(spelt(text));
-  return list;
+// An object, written entry by entry: the record of a large project holds all its files, which fit
+// in memory as text more often than as values.
+class ObjectText {
+public:
+  void add(const char* key, const Json& value) { next(key) += value.dump(); }
+
+  template <class Items, class JsonOf>
+  void addList(const char* key, const Items& items, const JsonOf& jsonOf) {
+    std::string& text = next(key) += '[';
+    const char* separator = "\n";
+    for (const auto& item : items) {
+      text.append(separator).append(jsonOf(item).dump());
+      separator = ",\n";
+    }
+    text += "\n]";
+  }
+
+  void begin(const char* key) {
+    next(key) += '{';
+    separator_ = "\n";
+  }
+
+  void end() {
+    text_ += "\n}";
+    separator_ = ",\n";
+  }
+
+  std::string take() {
+    end();
+    return std::move(text_ += '\n');
+  }
+
+private:
+  std::string& next(const char* key) {
+    text_.append(separator_).append("\"").append(key).append("\": ");
+    separator_ = ",\n";
+    return text_;
+  }
+
+  std::string text_ = "{";
+  const char* separator_ = "\n";
+};
+
+Json jsonOfMade(const ChangePlan::Made& file) {
+  return {{"path", spelt(file.path)},
+          {"source", spelt(file.source)},
+          {"content", spelt(file.content)},
+          {"copy", file.isCopy}};
+}
+
+Json jsonOfDeleted(const std::pair<std::string, std::string>& names) {
+  return {{"schematic", spelt(names.first)}, {"profile", spelt(names.second)}};
+}
+
+void add(ObjectText& text, const ChangePlan& plan) {
+  text.begin("plan");
+  text.add("change", spelt(plan.title));
+  text.addList("request", plan.request, spelt);
+  text.add("project", spelt(plan.projectFile));
+  text.add("formerProject", spelt(plan.formerProjectFile));
+  text.addList("madeFolders", plan.madeFolders, spelt);
+  text.addList("made", plan.made, jsonOfMade);
+  text.addList("removed", plan.removed, spelt);
+  text.addList("removedFolders", plan.removedFolders, spelt);
+  text.addList("deleted", plan.deleted, jsonOfDeleted);
+  text.end();
 }
 
 std::vector<std::string> readList(const Json& json) {
@@ -47,27 +110,6 @@ std::vector<std::string> readList(const Json& json) {
   for (const Json& element : json)
     texts.push_back(read(element));
   return texts;
-}
-
-Json jsonOf(const ChangePlan& plan) {
-  Json made = Json::array();
-  for (const ChangePlan::Made& file : plan.made)
-    made.push_back({{"path", spelt(file.path)},
-                    {"source", spelt(file.source)},
-                    {"content", spelt(file.content)},
-                    {"copy", file.isCopy}});
-  Json deleted = Json::array();
-  for (const auto& [schematic, profile] : plan.deleted)
-    deleted.push_back({{"schematic", spelt(schematic)}, {"profile", spelt(profile)}});
-  return {{"change", spelt(plan.title)},
-          {"request", listOf(plan.request)},
-          {"project", spelt(plan.projectFile)},
-          {"formerProject", spelt(plan.formerProjectFile)},
-          {"madeFolders", listOf(plan.madeFolders)},
-          {"made", made},
-          {"removed", listOf(plan.removed)},
-          {"removedFolders", listOf(plan.removedFolders)},
-          {"deleted", deleted}};
 }
 
 ChangePlan planIn(const Json& json) {
@@ -104,17 +146,22 @@ ChangeRecord recordOf(const Json& json) {
 } // namespace
 
 std::string textOf(const ChangeRecord& record) {
-  Json rewritten = Json::array();
-  for (std::size_t i = 0; i < record.former.size(); ++i)
-    rewritten.push_back({{"path", spelt(record.plan.rewritten[i].path)},
-                         {"former", spelt(record.former[i].content)},
-                         {"content", spelt(record.plan.rewritten[i].content)},
-                         {"staged", spelt(record.former[i].staged)}});
-  const Json json = {{"version", kVersion},        {"complete", record.isComplete},
-                     {"process", record.process},  {"plan", jsonOf(record.plan)},
-                     {"rewritten", rewritten},     {"newFolders", listOf(record.newFolders)},
-                     {"kept", listOf(record.kept)}};
-  return json.dump(2) + "\n";
+  ObjectText text;
+  text.add("version", kVersion);
+  text.add("complete", record.isComplete);
+  text.add("process", record.process);
+  add(text, record.plan);
+  text.addList("rewritten", record.former, [&](const ChangeRecord::Former& former) -> Json {
+    const auto index = static_cast<std::size_t>(&former - record.former.data());
+    const ChangePlan::Rewritten& rewritten = record.plan.rewritten[index];
+    return {{"path", spelt(rewritten.path)},
+            {"former", spelt(former.content)},
+            {"content", spelt(rewritten.content)},
+            {"staged", spelt(former.staged)}};
+  });
+  text.addList("newFolders", record.newFolders, spelt);
+  text.addList("kept", record.kept, spelt);
+  return text.take();
 }
 
 std::optional<ChangeRecord> recordIn(const std::string& text) {

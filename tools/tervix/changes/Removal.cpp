@@ -41,7 +41,7 @@ void removeProfileFiles(ChangePlan& plan, const ProjectLayout& layout, const std
                         const std::string& profile) {
   const ProfilePlaces places = layout.placesOf(schematic, profile);
   removeFile(plan, places.sim);
-  for (const std::string& file : places.files)
+  for (const std::string& file : layout.filesOf(schematic, profile))
     removeFile(plan, file);
   if (layout.isSimulation())
     removeFolder(plan, places.folder);

@@ -135,10 +135,14 @@ void Renaming::mapPaths() {
 }
 
 void Renaming::mapProfile(const ProfileChange& change) {
+  if (change.schematic == change.newSchematic && change.profile == change.newProfile &&
+      before_.placesAllLike(after_))
+    return;
   const ProfilePlaces from = before_.placesOf(change.schematic, change.profile);
   const ProfilePlaces to = after_.placesOf(change.newSchematic, change.newProfile);
   map_.moveFile(from.sim, to.sim);
-  mapAll(map_, from.files, to.files);
+  mapAll(map_, before_.filesOf(change.schematic, change.profile),
+         after_.filesOf(change.newSchematic, change.newProfile));
   if (!before_.isSimulation())
     return;
   map_.moveFile(from.includeList, to.includeList);
