@@ -38,16 +38,17 @@ FRONTEND_ID frontEndFor(FileKind kind, const fs::path& file, std::optional<int> 
       throw Failure("front end " + std::to_string(*chosen) + " opens .tvp files only", kWrongUsage);
     return FRONTEND_ID_UNSET;
   }
-  if (chosen == 0)
-    throw Failure("front end 0 opens .sim, .aap and .$ap files only", kWrongUsage);
   const std::string folder = lowered(file.parent_path().filename().string());
   const bool isOfFrontEnd1 = folder == "cfg_analog" || folder == "tvx_sim_1";
-  if (chosen == 1 && !isOfFrontEnd1)
+  if (!chosen)
+    return isOfFrontEnd1 ? FRONTEND_ID_PROJECT_FILE : FRONTEND_ID_DESIGN_FILE;
+  const auto frontEnd = static_cast<FRONTEND_ID>(*chosen);
+  if (frontEnd == FRONTEND_ID_UNSET)
+    throw Failure("front end 0 opens .sim, .aap and .$ap files only", kWrongUsage);
+  if (frontEnd == FRONTEND_ID_PROJECT_FILE && !isOfFrontEnd1)
     throw Failure("front end 1 opens project files in a folder cfg_analog or tvx_sim_1 only",
                   kWrongUsage);
-  if (chosen)
-    return static_cast<FRONTEND_ID>(*chosen);
-  return isOfFrontEnd1 ? FRONTEND_ID_PROJECT_FILE : FRONTEND_ID_DESIGN_FILE;
+  return frontEnd;
 }
 
 // The full path. A ".." is followed as the system does, since the folder before it may be a link.
