@@ -42,6 +42,20 @@ TEST_F(IncludeLines, MayBeginASectionOfTheLibrary) {
   EXPECT_EQ(foundIn(".lib typical\n.model x npn\n.endl typical\n"), Found());
 }
 
+TEST_F(IncludeLines, BeginASectionWhereOnlyAFolderOrAnotherCaseHasItsName) {
+  project_.write("TYPICAL", "");
+  project_.makeFolder("Worst");
+  EXPECT_EQ(foundIn(".lib typical\n.lib worst\n.lib Worst\n"), Found());
+}
+
+TEST_F(IncludeLines, MayFollowAByteOrderMark) {
+  EXPECT_EQ(foundIn("\xef\xbb\xbf.inc gone.inc\n"), (Found{"unresolved-include npn.lib:1"}));
+}
+
+TEST_F(IncludeLines, EndANameThatLacksItsSecondQuote) {
+  EXPECT_EQ(foundIn(".inc \"supply.inc\r\n.inc 'supply.inc\n.inc \"supply.inc"), Found());
+}
+
 TEST_F(IncludeLines, NameAFileWithoutAnEndingWhereThereIsOne) {
   project_.write("typical", ".inc gone.inc\n");
   EXPECT_EQ(foundIn(".lib typical\n"), (Found{"unresolved-include typical:1"}));

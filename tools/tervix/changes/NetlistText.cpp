@@ -12,20 +12,26 @@ namespace tervix::tool {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr std::array<std::string_view, 4> kIncludeWords = {".inc", ".include", ".lib", ".stmlib"};
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(kBlanks), text.size()));
 }
 
-// What stands first: between quotes, or up to a blank or a comment.
+// What stands first: between quotes, of which the line's end may be the second, or up to a blank or
+// a comment.
 std::string_view nameAtFront(std::string_view text, bool isQuoted) {
-  if (isQuoted)
-    return text.substr(1, text.substr(1).find(text.front()));
+  if (isQuoted) {
+    const std::string_view rest = text.substr(1, text.find_first_of("\r\n") - 1);
+    return rest.substr(0, rest.find(text.front()));
+  }
   return text.substr(0, text.find_first_of(" \t\r\n;"));
 }
 
 std::optional<IncludedFile> includedBy(std::string_view line, std::size_t number) {
+  if (number == 1 && line.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+    line.remove_prefix(kByteOrderMark.size());
   line = withoutLeadingBlanks(line.substr(0, line.find('\0')));
   if (line.empty() || line.front() != '.')
     return std::nullopt;

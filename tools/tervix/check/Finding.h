@@ -12,6 +12,7 @@ enum class Severity { kError, kWarning, kNote };
 enum class Code {
   kProjectUnopenable,
   kMissingDesign,
+  kMissingResource,
   kMissingProfile,
   kMissingLibrary,
   kMissingInclude,

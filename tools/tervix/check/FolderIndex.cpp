@@ -162,6 +162,25 @@ std::optional<std::string> FolderIndex::twinOf(const std::string& path) {
   return std::nullopt;
 }
 
+std::optional<std::string> FolderIndex::spelledPathOf(const std::string& path) {
+  if (!isOwn(path))
+    return std::nullopt;
+  std::string spelled = root_;
+  for (std::size_t begin = root_.size() + 1; begin <= path.size();) {
+    const std::size_t end = std::min(path.find('/', begin), path.size());
+    std::string place = (spelled + "/").append(path, begin, end - begin);
+    if (typeOf(place) == EntryType::kMissing) {
+      const auto twin = twinOf(place);
+      if (!twin)
+        return std::nullopt;
+      place = (spelled + "/").append(*twin);
+    }
+    spelled = std::move(place);
+    begin = end + 1;
+  }
+  return isFile(spelled) ? std::optional(spelled) : std::nullopt;
+}
+
 const std::string& FolderIndex::realFolder(const std::string& path) {
   if (const auto found = realFolders_.find(path); found != realFolders_.end())
     return found->second;

@@ -44,6 +44,8 @@ public:
   bool isLink(const std::string& path);
   // The name of an entry that differs from the path's only in case.
   std::optional<std::string> twinOf(const std::string& path);
+  // The path of a file that differs from the path only in case, also in that of its folders.
+  std::optional<std::string> spelledPathOf(const std::string& path);
   // Whether the way from folder to path passes no link, and ends at none.
   bool isDirectlyIn(const std::string& path, const std::string& folder);
   // The same for every path that leads to one file; the path itself where nothing is there.

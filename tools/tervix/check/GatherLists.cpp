@@ -17,7 +17,7 @@ struct Item {
 };
 
 constexpr std::array<Item, 6> kItems = {
-    {{"Design Resources", "Files", Role::kDesign, false},
+    {{"Design Resources", "Files", Role::kResource, false},
      {"Design Resources", "TERVIX_Output_File", Role::kOutput, false},
      {"Simulation Profiles", "Files", Role::kProfile, false},
      {"Tervix Resources", "Model Libraries", Role::kLibrary, true},
@@ -30,13 +30,13 @@ void takeReference(ProjectFacts& facts, const formats::PlacedText& text) {
   for (const Item& item : kItems) {
     const bool isMeant = text.section == item.section && text.item == item.item &&
                          (item.isForFrontEnd1 || facts.isFrontEnd2());
-    // Of the design's files only the first ".dsn" file counts.
-    const bool isDesign = item.role == Role::kDesign;
-    if (!isMeant || text.text.empty() ||
-        (isDesign && (!facts.designFile.empty() || !endsWith(text.text, ".dsn"))))
+    if (!isMeant || text.text.empty())
       continue;
-    const Reference& reference =
-        facts.refer(item.role, {facts.layout.projectFile, text.line}, text.text);
+    // Of the design's files the first ".dsn" file is the design.
+    const bool isDesign =
+        item.role == Role::kResource && facts.designFile.empty() && endsWith(text.text, ".dsn");
+    const Reference& reference = facts.refer(isDesign ? Role::kDesign : item.role,
+                                             {facts.layout.projectFile, text.line}, text.text);
     if (isDesign)
       facts.designFile = reference.target;
   }

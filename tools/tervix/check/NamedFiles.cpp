@@ -13,8 +13,9 @@ struct Kind {
   Code missing;
 };
 
-constexpr std::array<Kind, 7> kKinds = {
+constexpr std::array<Kind, 8> kKinds = {
     {{Role::kDesign, "design file", Code::kMissingDesign},
+     {Role::kResource, "file of the design", Code::kMissingResource},
      {Role::kProfile, "profile", Code::kMissingProfile},
      {Role::kLibrary, "library", Code::kMissingLibrary},
      {Role::kStimulus, "stimulus file", Code::kMissingStimulus},
@@ -24,17 +25,16 @@ constexpr std::array<Kind, 7> kKinds = {
 
 void checkFile(ProjectFacts& facts, Findings& findings, const Kind& kind,
                const Reference& reference) {
-  if (reference.type == EntryType::kFile)
+  if (reference.type == EntryType::kFile || reference.maybeSection)
     return;
   const std::string named = std::string("the ") + kind.what + " " + inQuotes(reference.text);
-  const auto twin = facts.index.twinOf(reference.target);
-  if (reference.type == EntryType::kMissing && twin)
-    findings.add(Code::kCaseDiffers, reference.place,
-                 named + " is not there, but " + inQuotes(*twin) + " is");
-  else if (reference.type == EntryType::kMissing && !reference.maybeSection)
-    findings.add(kind.missing, reference.place, named + " is not there");
-  else if (reference.type != EntryType::kMissing && !reference.maybeSection)
+  if (reference.type != EntryType::kMissing)
     findings.add(Code::kUnreadableFile, reference.place, named + " is not a regular file");
+  else if (const auto spelled = facts.index.spelledPathOf(reference.target))
+    findings.add(Code::kCaseDiffers, reference.place,
+                 named + " is not there, but " + findings.named(*spelled) + " is");
+  else
+    findings.add(kind.missing, reference.place, named + " is not there");
 }
 
 } // namespace

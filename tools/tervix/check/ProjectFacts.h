@@ -32,6 +32,7 @@ struct PlacedName {
 // What is named where, and so what has to be there.
 enum class Role {
   kDesign,
+  kResource,
   kProfile,
   kLibrary,
   kStimulus,
