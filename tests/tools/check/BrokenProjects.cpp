@@ -66,6 +66,15 @@ std::vector<BrokenProject> missingFiles() {
       {"NameInAnotherCase", kFlat,
        [](Project& p) { p.replace("amp.tvp", "\"npn.lib\"", "\"NPN.lib\""); },
        "case-differs amp.tvp:10"},
+      {"FolderInAnotherCase", kFlat,
+       [](Project& p) {
+         p.write("Models/x.lib", "");
+         p.append("npn.lib", ".inc models\\X.lib\n");
+       },
+       "case-differs npn.lib:3"},
+      {"ProfileFolderInAnotherCase", kWorkspace,
+       [](Project& p) { p.rename("profiles/noise", "profiles/Noise"); },
+       "case-differs profiles/Noise"},
       {"FolderInPlaceOfAFile", kFlat,
        [](Project& p) {
          p.replace("amp.tvp", "\"npn.lib\"", "\"npn.lib\", \"folder.lib\"");
@@ -176,6 +185,12 @@ std::vector<BrokenProject> leftovers() {
        "orphan-folder old-TervixFiles"},
       {"FormerNameInAFolder", kSimulation,
        [](Project& p) {
+      {"RenamedProfileFolder", kWorkspace,
+       [](Project& p) { p.rename("profiles/noise", "profiles/hiss"); },
+       "orphan-folder profiles/hiss"},
+      {"CopiedProfileFolder", kSimulation,
+       [](Project& p) { p.write(kTop + "tran - Copy/tran_profile.inc", ""); },
+       "orphan-folder " + kTop + "tran - Copy"},
          p.write(kTop + "ac/old.dat", "");
          p.write(kTop + "ac/old_profile.inc", "");
        },

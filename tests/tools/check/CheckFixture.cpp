@@ -34,6 +34,10 @@ void CheckedSample::remove(const std::string& name) const {
   ASSERT_NE(fs::remove_all(path(name)), 0U) << name;
 }
 
+void CheckedSample::rename(const std::string& name, const std::string& newName) const {
+  fs::rename(path(name), path(newName));
+}
+
 void CheckedSample::renameProject(const std::string& name) {
   const std::string renamed = path(name);
   fs::rename(project(), renamed);

@@ -29,6 +29,7 @@ public:
   void replace(const std::string& name, const std::string& from, const std::string& to) const;
   void makeFolder(const std::string& name) const;
   void remove(const std::string& name) const; // with all that lies in it
+  void rename(const std::string& name, const std::string& newName) const;
   void renameProject(const std::string& name);
 
   ToolRun check(const Arguments& options = {}) const;

@@ -54,6 +54,7 @@ TEST(SharedFolder, KeepsProjectsApart) {
   project.write("amp-TOP-foreign.sim",
                 "ProfileName = \"x\"\nRootSchematics = \"TOP\"\nProjectFile = \"other.tvp\"\n");
   project.makeFolder("other-TervixFiles");
+  project.write("amp-TOP-foreign.sim.bak", "");
   project.write("other.tvp", "");
   EXPECT_EQ(findingsIn(project.checkedAsJson()), std::vector<std::string>());
 }

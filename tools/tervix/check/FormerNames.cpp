@@ -13,8 +13,6 @@
 namespace tervix::tool {
 namespace {
 
-constexpr const char* kIncludeListEnding = "_profile.inc";
-
 // Files by the stem in their name, in lower case.
 using FilesByStem = std::map<std::string, std::vector<std::string>>;
 
@@ -26,7 +24,7 @@ bool isNamedAfter(const std::string& key, const std::string& stem) {
 // What stands before the ending of a profile's file; empty when the name has none.
 std::string profileStemOf(const std::string& key) {
   if (endsWith(key, kIncludeListEnding))
-    return key.substr(0, key.size() - std::string(kIncludeListEnding).size());
+    return key.substr(0, key.size() - kIncludeListEnding.size());
   const std::string stem = cutStemOf(key);
   std::string suffix = key.substr(std::min(stem.size() + 1, key.size()));
   if (suffix.rfind("sim.", 0) == 0)

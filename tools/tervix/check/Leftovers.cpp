@@ -22,15 +22,18 @@ bool holdsText(const FolderIndex& index, const std::string& path) {
   return text && !text->empty();
 }
 
+const SimFile* simAt(const ProjectFacts& facts, const std::string& path) {
+  const auto sim = std::find_if(facts.sims.begin(), facts.sims.end(),
+                                [&](const SimFile& file) { return file.path == path; });
+  return sim != facts.sims.end() ? &*sim : nullptr;
+}
+
 // Whether a file has all that its kind needs.
-bool isWhole(ProjectFacts& facts, const std::string& path) {
+bool isWhole(ProjectFacts& facts, const std::string& path, const SimFile* sim) {
   if (!facts.index.isFile(path) || !holdsText(facts.index, path))
     return false;
-  if (endsWith(path, ".sim")) {
-    const auto sim = std::find_if(facts.sims.begin(), facts.sims.end(),
-                                  [&](const SimFile& file) { return file.path == path; });
-    return sim != facts.sims.end() && sim->isRead && reasonAgainstProfile(facts, *sim).empty();
-  }
+  if (sim != nullptr)
+    return sim->isRead && reasonAgainstProfile(facts, *sim).empty();
   if (endsWith(path, ".tvp") || endsWith(path, ".dsn"))
     return formats::readPlacedTexts(path).has_value();
   return true;
@@ -38,7 +41,11 @@ bool isWhole(ProjectFacts& facts, const std::string& path) {
 
 void checkBackup(ProjectFacts& facts, Findings& findings, const std::string& path) {
   const std::string original = path.substr(0, path.size() - std::string(kBackupEnding).size());
-  if (!isWhole(facts, original))
+  const bool isOfSim = endsWith(original, ".sim");
+  const SimFile* sim = isOfSim ? simAt(facts, original) : nullptr;
+  if (isOfSim && sim == nullptr && facts.index.isFile(original))
+    return; // of another project in the same folder, whose check tells
+  if (!isWhole(facts, original, sim))
     return findings.add(Code::kLostOriginal, {path},
                         findings.named(original) + " is not there, or not whole");
   Repair repair;
@@ -65,13 +72,19 @@ bool hasEntry(FolderIndex& index, const std::string& folder, const std::string& 
          index.twinOf(folder + "/" + name);
 }
 
-// Whether a folder holds files named after it, as that of a profile does, or nothing.
+// Whether a folder is that of a profile: it holds nothing, an include list, or files named after
+// it or after a profile beside it that has no folder, as one that was renamed by hand does.
 bool looksLikeProfileFolder(FolderIndex& index, const std::string& folder) {
-  const std::string stem = lowered(nameOf(folder));
+  const std::string above = folderOf(folder) + "/";
+  const std::string own = lowered(nameOf(folder));
+  const auto isNamedAfterProfile = [&](const FolderIndex::Entry& entry) {
+    const std::string stem = cutStemOf(entry.name);
+    return lowered(stem) == own || endsWith(entry.name, kIncludeListEnding) ||
+           (index.isFile(above + stem + ".sim") &&
+            index.typeOf(above + stem) == EntryType::kMissing);
+  };
   const auto& entries = index.folder(folder).entries;
-  return entries.empty() || std::any_of(entries.begin(), entries.end(), [&](const auto& entry) {
-           return entry.key.rfind(stem + ".", 0) == 0 || entry.key == stem + "_profile.inc";
-         });
+  return entries.empty() || std::any_of(entries.begin(), entries.end(), isNamedAfterProfile);
 }
 
 template <class Tell>
@@ -81,6 +94,17 @@ void forEachFolder(FolderIndex& index, const std::string& above, const Tell& tel
       tell(above + "/" + entry.name, entry.name);
 }
 
+// The folder of a profile is looked for in the case of the ".sim" file.
+void checkFolderCase(FolderIndex& index, Findings& findings, const std::string& folder) {
+  const auto sim = index.isFile(folder + ".sim") ? std::nullopt : index.twinOf(folder + ".sim");
+  if (!sim)
+    return;
+  const std::string name = stemOf(*sim);
+  if (index.typeOf(folderOf(folder) + "/" + name) == EntryType::kMissing)
+    findings.add(Code::kCaseDiffers, {folder},
+                 "the folder of " + inQuotes(*sim) + " is looked for as " + inQuotes(name));
+}
+
 void checkProfileFolders(ProjectFacts& facts, Findings& findings, const std::string& above) {
   std::vector<std::string> registered;
   for (const SimFile& sim : facts.sims)
@@ -88,6 +112,7 @@ void checkProfileFolders(ProjectFacts& facts, Findings& findings, const std::str
       registered.push_back(lowered(nameOf(sim.path)));
   std::sort(registered.begin(), registered.end());
   forEachFolder(facts.index, above, [&](const std::string& path, const std::string& name) {
+    checkFolderCase(facts.index, findings, path);
     if (!hasEntry(facts.index, above, name + ".sim") &&
         !std::binary_search(registered.begin(), registered.end(), lowered(name + ".sim")) &&
         looksLikeProfileFolder(facts.index, path))

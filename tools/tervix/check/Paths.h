@@ -7,6 +7,8 @@ namespace tervix::tool {
 
 // Full paths with forward slashes, taken apart and compared as text; nothing touches the disk.
 
+inline constexpr std::string_view kIncludeListEnding = "_profile.inc";
+
 std::string folderOf(const std::string& path); // without the last separator
 std::string nameOf(const std::string& path);   // what follows the last separator of either kind
 std::string stemOf(const std::string& name);   // up to the last dot
