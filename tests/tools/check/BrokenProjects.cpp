@@ -125,6 +125,9 @@ std::vector<BrokenProject> brokenProfiles() {
       {"UnregisteredFlatProfile", kFlat,
        [](Project& p) { p.replace("amp.tvp", ", \"./amp-TOP-ac.sim\"", ""); },
        "unregistered-profile amp-TOP-ac.sim"},
+      {"UnregisteredProfileInAFolderOfAnother", kSimulation,
+       [](Project& p) { p.write(kTop + "ac/old.sim", p.content(kTop + "ac.sim")); },
+       "unregistered-profile " + kTop + "ac/old.sim"},
       {"RegisteredTwice", kFlat,
        [](Project& p) {
          p.replace("amp.tvp", "\"./amp-TOP-ac.sim\"", "\"./amp-TOP-ac.sim\", 'amp-TOP-ac.sim'");

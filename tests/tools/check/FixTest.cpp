@@ -146,6 +146,31 @@ TEST_F(Fix, LeavesFilesBehindLinksAlone) {
   EXPECT_TRUE(fs::is_symlink(project_.path("link.bak")));
 }
 
+TEST_F(Fix, RegistersNothingInAProjectFileBehindALink) {
+  const std::string elsewhere = project_.path("../elsewhere.tvp");
+  fs::rename(project_.path("amp.tvp"), elsewhere);
+  fs::create_symlink(elsewhere, project_.path("amp.tvp"));
+  const std::string before = contentOf(elsewhere);
+  const ToolRun run = fix();
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(contentOf(elsewhere), before);
+  EXPECT_FALSE(isFile(project_.path("opamp.lib.bak"))); // repairs of other files are made
+}
+
+// It would be looked for under the schematic as the design spells it.
+TEST_F(Fix, RegistersNoProfileInAFolderOfAnotherCase) {
+  project_.rename("amp-TervixFiles/BIAS", "amp-TervixFiles/Bias");
+  const std::string moved = "amp-TervixFiles/Bias/dc.sim";
+  const auto json = project_.checkedAsJson();
+  bool isFound = false;
+  for (const auto& finding : json["findings"])
+    if (finding["code"] == "unregistered-profile" && finding["path"] == moved) {
+      isFound = true;
+      EXPECT_EQ(finding["fixable"], false);
+    }
+  EXPECT_TRUE(isFound);
+}
+
 TEST_F(Fix, SavesToAFolderOfItsOwn) {
   project_.write("amp-TervixSaved-1/amp.tvp", "");
   ASSERT_EQ(fix().status, 0);

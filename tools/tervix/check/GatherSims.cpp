@@ -91,9 +91,7 @@ void removeForeign(ProjectFacts& facts) {
 void gatherSims(ProjectFacts& facts, Progress& progress) {
   SimGathering gathering(facts);
   gathering.takeRegistered();
-  if (!facts.layout.isSimulation())
-    gathering.takeFound(facts.layout.folder);
-  for (const std::string& folder : facts.schematicFolders)
+  for (const std::string& folder : facts.simFolders)
     gathering.takeFound(folder);
   progress.tell("reading profiles", facts.sims.size());
   inParallel(facts.sims.size(), [&](std::size_t i) { readKeys(facts.index, facts.sims[i]); });

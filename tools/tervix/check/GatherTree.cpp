@@ -54,16 +54,18 @@ std::vector<std::string> foldersIn(FolderIndex& index, const std::string& path) 
 }
 
 // Level by level, so that the folders of one level can be listed together.
-void addTree(ProjectFacts& facts, const std::string& top) {
+std::vector<std::string> treeBelow(ProjectFacts& facts, const std::string& top) {
+  std::vector<std::string> tree;
   for (std::vector<std::string> level = {top}; !level.empty();) {
     facts.index.listAhead(level);
     std::vector<std::string> below;
     for (const std::string& folder : level)
       for (std::string& found : foldersIn(facts.index, folder))
         below.push_back(std::move(found));
-    facts.ownFolders.insert(facts.ownFolders.end(), level.begin(), level.end());
+    tree.insert(tree.end(), level.begin(), level.end());
     level = std::move(below);
   }
+  return tree;
 }
 
 } // namespace
@@ -81,15 +83,20 @@ void gatherFolders(ProjectFacts& facts, Progress& progress) {
   facts.ownFolders.push_back(layout.folder);
   if (layout.designFolder != layout.folder && liesBelow(layout.designFolder, facts.root))
     facts.ownFolders.push_back(layout.designFolder);
-  if (!layout.isSimulation())
+  if (!layout.isSimulation()) {
+    facts.simFolders.push_back(layout.folder);
     return;
+  }
   const std::string top =
       layout.hasDesignFile() ? layout.filesFolder() : layout.folder + "/profiles";
   if (facts.index.typeOf(top) != EntryType::kFolder)
     return;
-  addTree(facts, top);
-  facts.schematicFolders =
-      layout.hasDesignFile() ? foldersIn(facts.index, top) : std::vector<std::string>{top};
+  const std::vector<std::string> tree = treeBelow(facts, top);
+  facts.ownFolders.insert(facts.ownFolders.end(), tree.begin(), tree.end());
+  const std::vector<std::string> found = {top};
+  facts.schematicFolders = layout.hasDesignFile() ? foldersIn(facts.index, top) : found;
+  // Front end 1 has as profiles what lies there; a profile of front end 2 may have gone astray.
+  facts.simFolders = layout.hasDesignFile() ? tree : found;
 }
 
 } // namespace tervix::tool

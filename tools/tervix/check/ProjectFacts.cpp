@@ -12,7 +12,8 @@ namespace {
 // The folder below the files' folder in which a simulation project keeps a schematic's profiles.
 std::string schematicOfPlace(const ProjectFacts& facts, const std::string& sim) {
   const std::string way = seenIn(facts.layout.filesFolder(), sim);
-  return way == sim ? std::string() : way.substr(0, way.find('/'));
+  const std::size_t end = way.find('/');
+  return way == sim || end == std::string::npos ? std::string() : way.substr(0, end);
 }
 
 } // namespace

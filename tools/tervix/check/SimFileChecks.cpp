@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <set>
 #include <unordered_set>
@@ -42,6 +43,8 @@ private:
     if (const std::string reason = reasonAgainstProfile(facts_, sim); !reason.empty())
       return {Code::kInvalidProfile, reason};
     const ProfileNames names = namesOf(facts_, sim);
+    if (names.schematic.empty())
+      return {Code::kUnknownSchematic, "neither RootSchematics nor its place tells a schematic"};
     if (!facts_.hasSchematic(names.schematic))
       return {Code::kUnknownSchematic,
               "there is no schematic " + inQuotes(names.schematic) + " in the design"};
@@ -59,9 +62,13 @@ private:
   }
 
   std::string composedPlace(const ProfileNames& names) const {
-    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
-    return loaded != nullptr ? loaded->sim
-                             : facts_.layout.placesOf(names.schematic, names.name).sim;
+    if (const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name))
+      return loaded->sim;
+    // Under the schematic as the design spells it.
+    const auto listed = std::find_if(
+        facts_.schematics.begin(), facts_.schematics.end(),
+        [&](const PlacedName& name) { return isSameName(name.name, names.schematic); });
+    return facts_.layout.placesOf(listed->name, names.name).sim;
   }
 
   // Where case is ignored the names may differ in it.
@@ -85,6 +92,14 @@ private:
     const std::string message = "the file is not registered in the project file";
     if (!obstacle.text.empty())
       return findings_.add(Code::kUnregisteredProfile, {sim.path}, message + "; " + obstacle.text);
+    findings_.add(Code::kUnregisteredProfile, {sim.path}, message, registrationOf(sim));
+    checkKeys(sim);
+  }
+
+  Repair registrationOf(const SimFile& sim) {
+    // A link is left alone: what it leads to may be somebody else's.
+    if (!facts_.index.isDirectlyIn(facts_.layout.projectFile, facts_.layout.folder))
+      return {};
     const ProfileNames names = namesOf(facts_, sim);
     Repair repair;
     repair.action = Repair::Action::kRegisterProfile;
@@ -92,20 +107,24 @@ private:
     repair.newText = relativeText(sim.path, facts_.layout.folder, "./", true);
     repair.schematic = names.schematic;
     repair.profile = names.name;
-    findings_.add(Code::kUnregisteredProfile, {sim.path}, message, std::move(repair));
+    return repair;
   }
 
   void checkKeys(const SimFile& sim) {
     const ProfileNames names = namesOf(facts_, sim);
-    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
     checkName(sim, SimKey::kProfileFile, nameOf(sim.path));
     checkName(sim, SimKey::kProjectFile, nameOf(facts_.layout.projectFile));
-    if (loaded != nullptr)
-      checkName(sim, SimKey::kNetlistFile, nameOf(loaded->netlist));
+    checkName(sim, SimKey::kNetlistFile, nameOf(netlistOf(names)));
     for (std::size_t i = 0; i < sim.keys.size(); ++i)
       if (sim.keys.at(i).count > 1)
         findings_.add(Code::kRepeatedKey, {sim.path, sim.keys.at(i).line},
                       std::string(wordOf(static_cast<SimKey>(i))) + " stands here once more");
+  }
+
+  std::string netlistOf(const ProfileNames& names) const {
+    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
+    return loaded != nullptr ? loaded->netlist
+                             : facts_.layout.filesOf(names.schematic, names.name)[PROFILE_FILE_CIR];
   }
 
   // What has no value leaves it to the place.
