@@ -150,6 +150,12 @@ std::vector<BrokenProject> brokenProfiles() {
       {"EntryWithoutQuotes", kSimulation,
        [](Project& p) { p.append(kTranList, ".INC load.inc\n"); },
        "dropped-entry " + kTranList + ":5"},
+      {"EntryWithoutItsSecondQuote", kSimulation,
+       [](Project& p) {
+         p.append(kTranList, ".INC \"../../../local.inc\n.INC \"./tran.inc\"\n");
+         p.write(kTop + "tran/tran.inc", "");
+       },
+       "dropped-entry " + kTranList + ":5"},
       {"LineThatALoadDrops", kSimulation,
        [](Project& p) { p.append(kTranList, "* a comment\n\n"); },
        "dropped-line " + kTranList + ":5"},
@@ -179,6 +185,12 @@ std::vector<BrokenProject> leftovers() {
       {"ProfileFolderAlone", kSimulation,
        [](Project& p) { p.write(kTop + "old/old_profile.inc", ""); },
        "orphan-folder " + kTop + "old"},
+      {"RenamedProfileFolder", kWorkspace,
+       [](Project& p) { p.rename("profiles/noise", "profiles/hiss"); },
+       "orphan-folder profiles/hiss"},
+      {"CopiedProfileFolder", kSimulation,
+       [](Project& p) { p.write(kTop + "tran - Copy/tran_profile.inc", ""); },
+       "orphan-folder " + kTop + "tran - Copy"},
       {"EmptyProfileFolder", kWorkspace, [](Project& p) { p.makeFolder("profiles/old"); },
        "orphan-folder profiles/old"},
       {"SchematicFolderAlone", kSimulation,
@@ -188,12 +200,6 @@ std::vector<BrokenProject> leftovers() {
        "orphan-folder old-TervixFiles"},
       {"FormerNameInAFolder", kSimulation,
        [](Project& p) {
-      {"RenamedProfileFolder", kWorkspace,
-       [](Project& p) { p.rename("profiles/noise", "profiles/hiss"); },
-       "orphan-folder profiles/hiss"},
-      {"CopiedProfileFolder", kSimulation,
-       [](Project& p) { p.write(kTop + "tran - Copy/tran_profile.inc", ""); },
-       "orphan-folder " + kTop + "tran - Copy"},
          p.write(kTop + "ac/old.dat", "");
          p.write(kTop + "ac/old_profile.inc", "");
        },

@@ -19,17 +19,24 @@ public:
     const std::string value(line.value);
     if (!line.kind) {
       if (!line.isBlank)
-        facts_.dropped.push_back({place, false, value});
-    } else if (const auto& loaded = profile_.files[*line.kind];
-               next_[*line.kind] < loaded.size() && loaded[next_[*line.kind]] == value) {
+        facts_.dropped.push_back({place, false, false, value});
+    } else if (isNextLoaded(*line.kind, value)) {
       ++next_[*line.kind];
       facts_.refer(kRoles[*line.kind], place, value);
     } else {
-      facts_.dropped.push_back({place, true, value});
+      const bool isOpen =
+          isNextLoaded(*line.kind, value + "\n") || isNextLoaded(*line.kind, value + "\r\n");
+      next_[*line.kind] += isOpen ? 1 : 0;
+      facts_.dropped.push_back({place, true, isOpen, value});
     }
   }
 
 private:
+  bool isNextLoaded(VARIANTFILE_TYPE kind, const std::string& value) const {
+    const std::vector<std::string>& loaded = profile_.files[kind];
+    return next_[kind] < loaded.size() && loaded[next_[kind]] == value;
+  }
+
   ProjectFacts& facts_;
   const LoadedProfile& profile_;
   std::array<std::size_t, 3> next_{};

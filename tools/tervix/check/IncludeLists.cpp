@@ -10,6 +10,9 @@ void checkIncludeLists(ProjectFacts& facts, Findings& findings) {
     if (!dropped.isEntry)
       findings.add(Code::kDroppedLine, dropped.place,
                    "the line is no entry, and lost when the list is saved");
+    else if (dropped.isOpen)
+      findings.add(Code::kDroppedEntry, dropped.place,
+                   "the entry for " + inQuotes(dropped.value) + " lacks its second double quote");
     else if (dropped.value.empty())
       findings.add(Code::kDroppedEntry, dropped.place,
                    "the entry names no file between double quotes");

@@ -86,6 +86,7 @@ struct SimFile {
 struct DroppedLine {
   Place place;
   bool isEntry;
+  bool isOpen; // without its second quote, and loaded with the line's end
   std::string value;
 };
 
@@ -115,8 +116,8 @@ struct ProjectFacts {
   std::vector<IncludeCycle> cycles;
   std::vector<std::string> ownFolders;       // the project's, and those below that are its alone
   std::vector<std::string> schematicFolders; // in which profiles have folders
-
   std::vector<std::string> simFolders;       // in which ".sim" files are the project's
+
   bool isFrontEnd2() const { return layout.hasDesignFile(); }
   // Without its design file nothing can be said of what belongs to the design.
   bool knowsDesign() const { return !isFrontEnd2() || !layout.design.empty(); }
