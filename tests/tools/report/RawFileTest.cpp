@@ -142,6 +142,32 @@ TEST_P(RawForm, ReadsToTheEndAfterAnInterruptedRun) {
   EXPECT_EQ(file.mistake(), "");
 }
 
+TEST_P(RawForm, TellsWhereAnInterruptedRunEndsWithinAPoint) {
+  RawText raw;
+  raw.rows = kRows;
+  raw.points = "0";
+  const std::string text = textOf(raw);
+  EXPECT_EQ(mistakeIn(text.substr(0, text.size() - (GetParam() ? 1 : 24))),
+            "it ends within point 2");
+}
+
+TEST_P(RawForm, HasNoPointsOfAPlotWithoutAny) {
+  RawText none;
+  none.points = "0";
+  RawText some;
+  some.rows = kRows;
+  some.points = "3";
+  RawFile file(written(textOf(none) + textOf(some) + textOf(none)));
+  for (const Rows& rows : {Rows(), kRows, Rows()}) {
+    ASSERT_TRUE(file.nextPlot()) << file.mistake();
+    EXPECT_EQ(rowsOf(file), rows);
+    file.rewind();
+    EXPECT_EQ(rowsOf(file), rows);
+  }
+  EXPECT_FALSE(file.nextPlot());
+  EXPECT_EQ(file.mistake(), "");
+}
+
 TEST_P(RawForm, TellsWhatFollowsThePointsAndIsNoPlot) {
   RawText raw;
   raw.rows = kRows;

@@ -82,6 +82,8 @@ bool RawFile::fail(const std::string& mistake) {
 }
 
 bool RawFile::endEarly() {
+  if (plot_.points == 0)
+    return fail("it ends within point " + std::to_string(rowsRead_));
   return fail("it ends after " + std::to_string(rowsRead_) + " of the " +
               std::to_string(plot_.points) + " points that its header tells of");
 }
@@ -176,6 +178,8 @@ bool RawFile::nextRow(std::vector<double>& row) {
   if (!mistake_.empty() || (plot_.points != 0 && rowsRead_ == plot_.points))
     return false;
   row.resize(plot_.width());
+  if (plot_.points == 0 && isAtNextPlot())
+    return false;
   if (!(plot_.isBinary ? readBinaryRow(row) : readAsciiRow(row)))
     return false;
   ++rowsRead_;
@@ -219,6 +223,20 @@ bool RawFile::readAsciiRow(std::vector<double>& row) {
   if (stream_.peek() == '\n')
     stream_.get();
   return true;
+}
+
+// Where a header does not tell of its points, as one of no points does not, the next one ends them.
+bool RawFile::isAtNextPlot() {
+  while (!plot_.isBinary && (stream_.peek() == '\n' || stream_.peek() == '\r'))
+    stream_.get();
+  if (stream_.peek() != 'T' && stream_.peek() != 't')
+    return false; // at once, as there may be a great many rows
+  const std::streampos here = stream_.tellg();
+  std::string begin(kFirstField.size(), '\0');
+  stream_.read(begin.data(), static_cast<std::streamsize>(begin.size()));
+  stream_.clear();
+  stream_.seekg(here);
+  return toLowerCase(begin) == kFirstField;
 }
 
 bool RawFile::readLine(std::string& line) {

@@ -56,6 +56,7 @@ private:
   bool readVariables(std::string line, std::uint64_t count);
   bool readBinaryRow(std::vector<double>& row);
   bool readAsciiRow(std::vector<double>& row);
+  bool isAtNextPlot();
   bool readLine(std::string& line);
   bool readWord(std::string& word);
   bool fail(const std::string& mistake);
