@@ -205,6 +205,36 @@ class Reports(unittest.TestCase):
         self.assertRegex(self.text(item + ".position"), r"Frequency [\d.]+\u00a0k?Hz")
         self.assertEqual(self.count(item + ".cursor circle"), 4)
 
+    def test_values_of_any_size_are_drawn_as_they_are(self):
+        shape = (0.0, 1.0, -0.5, 0.125)
+        sizes = (1e-300, 2e-46, 3e-21, 7e-6, 5.0, 6e12, 9e45, 4e300)
+        plots = [[size * value for value in shape] for size in sizes]
+        plots += [[1 + 1e-12 * value for value in shape], [-1.7e308, 1.7e308, 1e300]]
+        self.open(projects.of_sizes(self.folder / "sizes", EXAMPLES / "amp-flat", plots))
+        read = self.value("""JSON.parse(document.getElementById("data").textContent)
+            .project.schematics[0].profiles[0].outputs[0].plots
+            .map((plot) => [...decoded(plot.charts[0].curves[0])])""")
+        for number, (values, found) in enumerate(zip(plots, read, strict=True)):
+            near = max(values) / 1e6 - min(values) / 1e6
+            for value, drawn in zip(values, found, strict=True):
+                self.assertAlmostEqual(value, drawn, delta=near, msg=f"plot {number}")
+        heights = self.value("""[...document.querySelectorAll("svg.chart path.curve")]
+            .map((path) => path.getAttribute("d").match(/ [0-9.]+/g).join(""))""")
+        self.assertEqual(len(set(heights[:len(sizes)])), 1, "the same shape")
+        self.assertEqual(self.value("""[...document.querySelectorAll("svg.chart text")]
+            .filter((text) => text.getBoundingClientRect().left
+                < text.ownerSVGElement.getBoundingClientRect().left)
+            .map((text) => text.textContent)"""), [], "written within the chart")
+
+    def test_values_are_written_with_what_unit_and_size_allow(self):
+        self.open(EXAMPLES / SAMPLES[0])
+        for value, unit, text in (
+                (4.28e-9, "V/\u221aHz", "4.28 nV/\u221aHz"), (-0.0125, "A", "\u221212.5 mA"),
+                (4e-18, "V\u00b2/Hz", "4e\u221218 V\u00b2/Hz"),  # not the square of an attovolt
+                (-3e-40, "V", "\u22123e\u221240 V"), (2.5e30, "V", "2.5e+30 V"), (0, "V", "0 V")):
+            written = self.value(f"formatValue({value!r}, {json.dumps(unit)})")
+            self.assertEqual(written.replace("\u00a0", " "), text)
+
     def test_curves_can_be_left_out(self):
         self.open(EXAMPLES / "workspace/flt/cfg_analog/flt.tvp", "#profile=ac")
         curves = "[data-profile=ac] svg.chart > .curve"

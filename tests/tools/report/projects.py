@@ -13,6 +13,18 @@ DataFile = "./amp-TOP-{name}.dat"
 OutFile = "./amp-TOP-{name}.out"
 """
 
+RAW = """Title: sizes
+Plotname: {name}
+Flags: real
+No. Variables: 2
+No. Points: {count}
+Variables:
+\t0\ttime\ttime
+\t1\tv(x)\tvoltage
+Values:
+{rows}
+"""
+
 # All kinds of analysis of ngspice, in both of its formats and in one file.
 NETLIST = """filter
 V1 in 0 DC 1 AC 1 SIN(0 1 1k)
@@ -32,6 +44,16 @@ quit
 .endc
 .end
 """
+
+
+def of_sizes(folder, sample, plots):
+    """A sample whose active profile has a plot for each list of values."""
+    shutil.copytree(sample, folder)
+    (folder / "amp-TOP-tran.dat").write_text("".join(
+        RAW.format(name=f"plot {number}", count=len(values),
+                   rows="\n".join(f"{at}\t{at}\n\t{value!r}" for at, value in enumerate(values)))
+        for number, values in enumerate(plots)))
+    return folder / "amp.tvp"
 
 
 def large(folder, count, curves):

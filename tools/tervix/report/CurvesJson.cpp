@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <string_view>
 
 namespace tervix::tool {
@@ -35,16 +36,34 @@ void append(std::vector<unsigned char>& bytes, float value) {
     bytes.push_back(static_cast<unsigned char>(bits >> shift & 0xffU));
 }
 
+// The power of two that a range is just below. It is written as a number, which a range of the
+// largest values is too large for.
+int exponentOf(double low, double high) {
+  int exponent = 0;
+  std::frexp(high / 4 - low / 4, &exponent);
+  return std::min(exponent + 2, std::numeric_limits<double>::max_exponent - 1);
+}
+
+// Each value is the base and a number times the factor: single precision has no room for some
+// values, but has for all numbers up to one.
 Json jsonOfValues(const std::vector<double>& values, bool isLog) {
-  double base = 0;
-  if (!isLog)
-    for (const double value : values)
-      if (std::isfinite(value) && (base == 0 || value < base))
-        base = value;
+  double low = std::numeric_limits<double>::infinity();
+  double high = -low;
+  for (const double value : values)
+    if (std::isfinite(value)) {
+      low = std::min(low, value);
+      high = std::max(high, value);
+    }
+  if (isLog || low > high) {
+    low = std::min(low, 0.0);
+    high = std::max(high, 0.0);
+  }
+  const double base = isLog ? 0 : low;
+  const int exponent = exponentOf(low, high);
   std::vector<unsigned char> bytes;
   for (const double value : values)
-    append(bytes, static_cast<float>(value - base));
-  return {{"base", base}, {"data", base64(bytes)}};
+    append(bytes, static_cast<float>(std::ldexp(value, -exponent) - std::ldexp(base, -exponent)));
+  return {{"base", base}, {"factor", std::ldexp(1, exponent)}, {"data", base64(bytes)}};
 }
 
 Json withValues(Json json, const std::vector<double>& values, bool isLog) {

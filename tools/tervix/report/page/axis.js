@@ -3,6 +3,11 @@
 const STEPS = [1, 2, 5, 10];
 const ANGLES = [1, 2, 5, 10, 15, 30, 45, 90, 180, 360, 720, 1440];
 
+// Values of which an axis can hold the difference.
+function isDrawable(value) {
+  return Math.abs(value) < 1e307;
+}
+
 function rangeOf(lists, isUsable) {
   let low = Infinity;
   let high = -Infinity;
@@ -54,25 +59,35 @@ class Axis {
     const count = Math.max(2, Math.abs(this.to - this.from) / this.gap);
     const step = stepFor(this.high - this.low, count, this.unit);
     const { factor } = this.prefix;
-    const digits = Math.max(0, Math.min(12, -Math.floor(Math.log10(step / factor) + 1e-9)));
+    const written = this.writerFor(step / factor);
     const first = Math.ceil(this.low / step - 1e-9);
     const last = Math.floor(this.high / step + 1e-9);
     return Array.from({ length: Math.min(100, last - first + 1) }, (_, i) => (first + i) * step)
       .map((value) =>
-        ({ at: this.place(value), text: withMinus((value / factor).toFixed(digits)) }));
+        ({ at: this.place(value), text: withMinus(written(value / factor)) }));
+  }
+
+  // With as many digits as tell one step from the next, and a power of ten where they are many.
+  writerFor(step) {
+    const last = Math.floor(Math.log10(step) + 1e-9);
+    const size = Math.max(Math.abs(this.low), Math.abs(this.high)) / this.prefix.factor;
+    if (size >= 1e-3 && size < 1e7 && last >= -12) return (value) => value.toFixed(Math.max(0, -last));
+    const digits = Math.max(0, Math.min(12, Math.floor(Math.log10(size) + 1e-9) - last));
+    return (value) => (value === 0 ? "0" : value.toExponential(digits));
   }
 
   // A line for each step within a decade, a text for each decade, or more where there are few.
   logTicks() {
     const decades = this.high - this.low;
     const every = Math.max(1, Math.ceil((decades * 48) / Math.abs(this.to - this.from)));
+    const unit = this.unit && !takesPrefix(this.unit) ? "" : "\u00a0";
     const ticks = [];
     for (let power = Math.floor(this.low); power <= this.high; ++power)
       for (let digit = 1; digit < 10; ++digit) {
         const at = power + Math.log10(digit);
         if (at < this.low - 1e-9 || at > this.high + 1e-9 || (digit > 1 && every > 1)) continue;
         const isNamed = digit === 1 ? power % every === 0 : decades < 2 && [2, 5].includes(digit);
-        const text = formatValue(digit * 10 ** power, "\u00a0").replace(/\u00a0/g, "");
+        const text = formatValue(digit * 10 ** power, unit).replace(/\u00a0/g, "");
         ticks.push({ at: this.from + ((at - this.low) / decades) * (this.to - this.from),
           text: isNamed ? text : "", isMinor: digit > 1 });
       }

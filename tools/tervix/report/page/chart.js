@@ -3,6 +3,7 @@
 
 const HEIGHT = 260;
 const MARGIN = { left: 62, right: 14, top: 10, bottom: 44 };
+const DIGIT = 7; // the width of one beside the axis
 const COLOURS = 7;
 
 function curveClass(number) {
@@ -68,12 +69,14 @@ class ChartView {
     const { scale } = this.plot;
     const shown = this.shown();
     const isLog = this.chart.log && shown.some((curve) => curve.values.some((value) => value > 0));
-    const usable = (value) => Number.isFinite(value) && (!isLog || value > 0);
+    const usable = (value) => isDrawable(value) && (!isLog || value > 0);
     const range = rangeOf(shown.map((curve) => curve.values), usable) ?? (isLog ? [1, 10] : [0, 1]);
-    this.x = new Axis(rangeOf([scale.values], Number.isFinite),
-      { isLog: scale.log, unit: scale.unit, from: MARGIN.left, to: width - MARGIN.right, gap: 72 });
     this.y = new Axis(range, { isLog, unit: this.chart.unit,
       from: HEIGHT - MARGIN.bottom, to: MARGIN.top, gap: 34, margin: 0.05 });
+    const digits = Math.max(...this.y.ticks().map(({ text }) => text.length));
+    this.left = Math.max(MARGIN.left, 32 + digits * DIGIT);
+    this.x = new Axis(rangeOf([scale.values], isDrawable) ?? [0, 1],
+      { isLog: scale.log, unit: scale.unit, from: this.left, to: width - MARGIN.right, gap: 72 });
     this.cursorMark = makeSvg("g", { class: "cursor" });
     this.svg.setAttribute("width", width);
     this.svg.setAttribute("viewBox", `0 0 ${width} ${HEIGHT}`);
@@ -85,7 +88,7 @@ class ChartView {
 
   grid(width) {
     const [left, right, top, bottom] =
-      [MARGIN.left, width - MARGIN.right, MARGIN.top, HEIGHT - MARGIN.bottom];
+      [this.left, width - MARGIN.right, MARGIN.top, HEIGHT - MARGIN.bottom];
     const grid = makeSvg("g", { class: "grid" });
     const add = ({ text, isMinor }, line, place) => {
       grid.append(makeSvg("path", { class: isMinor ? "minor" : "major", d: line }));

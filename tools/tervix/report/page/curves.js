@@ -2,11 +2,12 @@
 
 const CURVES_SHOWN_FIRST = 8;
 
-// Numbers as they were embedded: single-precision, counted from a base, NaN for a gap.
-function decoded({ base, data }) {
+// Numbers as they were embedded: single-precision, times a factor counted from a base, NaN for a
+// gap. A range may be larger than the largest number.
+function decoded({ base, factor, data }) {
   const bytes = Uint8Array.from(atob(data), (character) => character.charCodeAt(0));
   const view = new DataView(bytes.buffer);
-  const valueAt = (_, at) => base + view.getFloat32(4 * at, true);
+  const valueAt = (_, at) => (base / factor + view.getFloat32(4 * at, true)) * factor;
   return Float64Array.from({ length: bytes.length / 4 }, valueAt);
 }
 

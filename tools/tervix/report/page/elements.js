@@ -42,15 +42,22 @@ function counted(count, one, many = one + "s") {
 const PREFIXES = ["a", "f", "p", "n", "\u00b5", "m", "", "k", "M", "G", "T"];
 const HUNDREDTHS = new Set(["dB", "\u00b0", "\u00b0C"]); // units of which no less is of interest
 
-// The power of ten and the letter by which a value of this size is written.
+// A square would be read as one of the letter, too.
+function takesPrefix(unit) {
+  return unit && !HUNDREDTHS.has(unit) && !unit.includes("\u00b2");
+}
+
+// The power of ten and the letter by which a value of this size is written. None far beyond the
+// letters, where a power of ten is easier to read.
 function prefixFor(size, unit) {
-  if (!unit || HUNDREDTHS.has(unit) || !(size > 0)) return { factor: 1, letter: "" };
-  const third = Math.max(-6, Math.min(4, Math.floor(Math.log10(size * (1 + 1e-9)) / 3)));
-  return { factor: 10 ** (3 * third), letter: PREFIXES[third + 6] };
+  const third = Math.floor(Math.log10(size * (1 + 1e-9)) / 3);
+  if (!takesPrefix(unit) || !(third >= -7 && third <= 5)) return { factor: 1, letter: "" };
+  const near = Math.max(-6, Math.min(4, third));
+  return { factor: 10 ** (3 * near), letter: PREFIXES[near + 6] };
 }
 
 function withMinus(text) {
-  return text.replace("-", "\u2212");
+  return text.replaceAll("-", "\u2212");
 }
 
 function formatValue(value, unit) {
