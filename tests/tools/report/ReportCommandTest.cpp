@@ -64,6 +64,7 @@ TEST_F(ReportCommand, NeedsAFileAndAPage) {
   expectFailure(2, std::string("FILE is required") + kHint, {"report", "-o", "x.html"});
   expectFailure(2, "\"gone.tvp\" is not a file that is there",
                 {"report", "gone.tvp", "-o", pages_.path()});
+  expectFailure(2, "the page has no name", {"report", project(), "-o", ""});
   EXPECT_EQ(runTool({"report", project(), "-o", pages_.path(), "--json"}).status, 2);
   EXPECT_FALSE(isFile(pages_.path()));
 }
@@ -88,6 +89,44 @@ TEST_F(ReportCommand, NeverReplacesAFileOfTheProject) {
     const std::string file = sample_.path(name);
     expectRefusal(file, "\"" + file + "\" is a file of the project", {"--force"});
   }
+}
+
+TEST_F(ReportCommand, NeverReplacesAFileThatAnotherOfTheProjectNames) {
+  writeFile(sample_.path("npn.lib"), ".inc deep.inc\n");
+  writeFile(sample_.path("deep.inc"), ".inc deeper.inc\n");
+  writeFile(sample_.path("deeper.inc"), "");
+  writeFile(sample_.path("amp-TOP-new.sim"),
+            "ProfileName = \"new\"\nRootSchematics = \"TOP\"\nProjectFile = \"amp.tvp\"\n");
+  for (const char* name : {"deep.inc", "deeper.inc", "amp-TOP-new.sim"}) {
+    const std::string file = sample_.path(name);
+    expectRefusal(file, "\"" + file + "\" is a file of the project", {"--force"});
+  }
+}
+
+TEST_F(ReportCommand, NeverTakesThePlaceOfAnIncludeList) {
+  const SampleCopy copy(allSamples().at(0));
+  for (const char* name : {"TOP/tran/tran_profile.inc", "BIAS/dc/dc_profile.inc"}) {
+    const std::string file = copy.path(std::string("amp-TervixFiles/") + name);
+    const EntriesOnDisk before = entriesOf(copy.folder());
+    expectFailure(1, "\"" + file + "\" is a file of the project",
+                  {"report", copy.project(), "-o", file, "--force"});
+    expectUntouched(before, entriesOf(copy.folder()), "a refusal");
+  }
+}
+
+// Which files are its own cannot be told.
+TEST_F(ReportCommand, ReplacesNothingButAReportWhereTheProjectCannotBeOpened) {
+  writeFile(project(), "[\"Tervix Resources\"]\n\"Model Libraries\" = 3\n");
+  for (const char* name : {"amp.tvp", "npn.lib"}) {
+    const std::string file = sample_.path(name);
+    expectRefusal(file,
+                  "\"" + file +
+                      "\" is there and is no report; whether it is a file of the "
+                      "project cannot be told",
+                  {"--force"});
+  }
+  pages_.pageOf(project());
+  EXPECT_EQ(report({"-o", pages_.path()}).status, 0);
 }
 
 TEST_F(ReportCommand, NeverTakesTheNameOfAFileThatARunWouldMake) {

@@ -48,6 +48,18 @@ std::string fullPathOf(const std::string& file) {
   return fs::absolute(forward).lexically_normal().generic_string();
 }
 
+std::vector<std::string> namedIn(const ProjectFacts& facts) {
+  std::vector<std::string> named;
+  for (const Reference& reference : facts.references)
+    named.push_back(reference.target);
+  for (const SimFile& sim : facts.sims)
+    named.push_back(sim.path);
+  for (const LoadedProfile& profile : facts.loaded)
+    if (!profile.includeList.empty())
+      named.push_back(profile.includeList);
+  return named;
+}
+
 std::vector<Finding> findingsIn(ProjectFacts& facts, Progress& progress) {
   progress.tell("comparing files", facts.references.size() + facts.sims.size());
   Findings findings(facts.layout);
@@ -108,6 +120,7 @@ CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, P
   checked.project->getPath(checked.path);
   ProjectFacts facts = gatherFacts(*checked.project, ahead, progress);
   checked.findings = findingsIn(facts, progress);
+  checked.named = namedIn(facts);
   return checked;
 }
 

@@ -14,14 +14,14 @@ struct CheckedProject {
   std::string path;                  // of the project file, or of the file that could not be opened
   CTervixProject* project = nullptr; // null when it could not be opened, which is then a finding
   std::vector<Finding> findings;     // worst first, file by file
+  std::vector<std::string> named;    // full paths that files of the project name, to any depth
 };
 
 // Throws a Failure of wrong usage for a file that is not there.
 void requireCheckable(const std::string& file);
 
 // Opens the project of a file, as openProject does, and tells what breaks it, or soon will. Nothing
-// is written. Throws a Failure of wrong usage
-// for a file that is none of a project, or not there.
+// is written. Throws a Failure of wrong usage for a file that is none of a project, or not there.
 CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, Progress& progress);
 
 } // namespace tervix::tool

@@ -27,10 +27,9 @@ void report(const ReportOptions& options) {
   Progress progress;
   const CheckedProject checked = checkFile(options.file, options.frontEnd, progress);
   std::optional<ProjectView> project;
-  if (checked.project != nullptr) {
+  if (checked.project != nullptr)
     project = viewOf(*checked.project);
-    requireNoneOf(*project, options.page);
-  }
+  requireNoneOf(checked, project ? &*project : nullptr, options.page);
   const Json data = reportData(checked, project ? &*project : nullptr, progress);
   const std::string name = project ? project->name : nameOf(checked.path);
   writeWholeFile(options.page, pageOf(data, printable(name) + ": project report"));

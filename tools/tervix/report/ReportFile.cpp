@@ -39,6 +39,11 @@ public:
            platform::isSameEntry(other.parent_path().string(), folder_);
   }
 
+  bool isAnyOf(const std::vector<std::string>& places) const {
+    return std::any_of(places.begin(), places.end(),
+                       [this](const std::string& place) { return is(place); });
+  }
+
   bool isAnyOf(const std::vector<FileView>& files) const {
     return std::any_of(files.begin(), files.end(),
                        [this](const FileView& file) { return is(file.place); });
@@ -70,6 +75,8 @@ bool isOf(const ProjectView& project, const Target& target) {
 } // namespace
 
 void requireWritable(const std::string& path, bool isForced) {
+  if (path.empty())
+    throw Failure("the page has no name", kWrongUsage);
   if (platform::isFolder(path))
     throw Failure(inQuotes(path) + " is a folder");
   if (!platform::isFolder(fs::absolute(path).parent_path().string()))
@@ -80,8 +87,13 @@ void requireWritable(const std::string& path, bool isForced) {
     throw Failure(inQuotes(path) + " is there and is no report; --force overwrites it");
 }
 
-void requireNoneOf(const ProjectView& project, const std::string& path) {
-  if (isOf(project, Target(path)))
+void requireNoneOf(const CheckedProject& checked, const ProjectView* project,
+                   const std::string& path) {
+  if (project == nullptr && isThere(path) && !isReport(path))
+    throw Failure(inQuotes(path) + " is there and is no report; whether it is a file of the "
+                                   "project cannot be told");
+  const Target target(path);
+  if (project != nullptr && (isOf(*project, target) || target.isAnyOf(checked.named)))
     throw Failure(inQuotes(path) + " is a file of the project");
 }
 
