@@ -146,6 +146,15 @@ TEST_F(Fix, LeavesFilesBehindLinksAlone) {
   EXPECT_TRUE(fs::is_symlink(project_.path("link.bak")));
 }
 
+TEST(FixOfAProjectBehindALink, FindsItsFilesByTheirFullPaths) {
+  const CheckedSample project(1);
+  project.replace("amp.tvp", "\"npn.lib\"", "\"" + project.path("npn.lib") + "\"");
+  const std::string link = project.path("../link");
+  fs::create_directory_symlink(project.path("."), link);
+  EXPECT_EQ(runTool({"check", link + "/amp.tvp", "--fix", "--strict"}).status, 0);
+  EXPECT_NE(project.content("amp.tvp").find("[\"./npn.lib\"]"), std::string::npos);
+}
+
 TEST_F(Fix, RegistersNothingInAProjectFileBehindALink) {
   const std::string elsewhere = project_.path("../elsewhere.tvp");
   fs::rename(project_.path("amp.tvp"), elsewhere);

@@ -8,7 +8,16 @@
 namespace tervix::tool {
 namespace {
 
-Repair repairOf(ProjectFacts& facts, const Reference& reference) {
+// Where a full path leads, by the way on which the project was opened: a link may lead there, too.
+std::string placeOf(ProjectFacts& facts, const Reference& reference) {
+  if (liesBelow(reference.target, facts.root) || !isFullText(reference.text))
+    return reference.target;
+  const std::string root = facts.index.realPathOf(facts.root);
+  const std::string place = facts.index.realPathOf(reference.target);
+  return liesBelow(place, root) ? facts.root + place.substr(root.size()) : reference.target;
+}
+
+Repair repairOf(ProjectFacts& facts, const Reference& reference, const std::string& place) {
   const bool isSafe = reference.text.find('"') == std::string::npos;
   // A link is left alone: what it leads to may be somebody else's.
   if (!isSafe || !facts.index.isDirectlyIn(reference.place.file, facts.layout.folder))
@@ -18,19 +27,19 @@ Repair repairOf(ProjectFacts& facts, const Reference& reference) {
   repair.file = reference.place.file;
   repair.line = reference.place.line;
   repair.text = reference.text;
-  repair.newText =
-      relativeText(reference.target, folderOf(reference.place.file), reference.text, true);
+  repair.newText = relativeText(place, folderOf(reference.place.file), reference.text, true);
   return repair;
 }
 
 void checkReference(ProjectFacts& facts, Findings& findings, const Reference& reference) {
-  if (!liesBelow(reference.target, facts.root))
+  const std::string place = placeOf(facts, reference);
+  if (!liesBelow(place, facts.root))
     findings.add(Code::kOutsideReference, reference.place,
                  inQuotes(reference.text) + " lies outside the project's folder");
   else if (isFullText(reference.text))
     findings.add(Code::kAbsolutePath, reference.place,
                  inQuotes(reference.text) + " is a full path to a place in the project",
-                 repairOf(facts, reference));
+                 repairOf(facts, reference, place));
 }
 
 } // namespace
