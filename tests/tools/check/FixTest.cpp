@@ -155,6 +155,13 @@ TEST(FixOfAProjectBehindALink, FindsItsFilesByTheirFullPaths) {
   EXPECT_NE(project.content("amp.tvp").find("[\"./npn.lib\"]"), std::string::npos);
 }
 
+TEST_F(Fix, FindsAValueBehindWhichItsKeyStandsOnceMore) {
+  project_.append(kDc, "DataFile = \"\"\n");
+  ASSERT_EQ(fix().status, 0);
+  EXPECT_EQ(findingsIn(project_.checkedAsJson()),
+            (Found{"repeated-key amp-TervixFiles/BIAS/dc.sim:13"}));
+}
+
 TEST_F(Fix, RegistersNothingInAProjectFileBehindALink) {
   const std::string elsewhere = project_.path("../elsewhere.tvp");
   fs::rename(project_.path("amp.tvp"), elsewhere);

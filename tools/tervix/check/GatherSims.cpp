@@ -23,8 +23,10 @@ void readKeys(const FolderIndex& index, SimFile& sim) {
     SimKeyFacts& facts = sim.keys.at(static_cast<std::size_t>(key));
     facts.line = line;
     ++facts.count;
-    if (!value.empty())
-      facts.value = value;
+    if (value.empty())
+      return;
+    facts.value = value;
+    facts.valueLine = line;
   });
 }
 
@@ -34,7 +36,7 @@ void takeReferences(ProjectFacts& facts, const SimFile& sim) {
     const SimKeyFacts& found = sim.key(key);
     if (!isFullText(found.value) && found.value.rfind("..", 0) != 0)
       continue;
-    facts.refer(Role::kSimKey, {sim.path, found.line}, found.value);
+    facts.refer(Role::kSimKey, {sim.path, found.valueLine}, found.value);
   }
 }
 

@@ -69,7 +69,7 @@ void checkDottedNames(const ProjectFacts& facts, Findings& findings) {
     checkDots(findings, {sim.path}, "profile's name", stem(sim.path));
     for (const SimKey key : {SimKey::kDataFile, SimKey::kOutFile})
       if (const SimKeyFacts& found = sim.key(key); !found.value.empty())
-        checkDots(findings, {sim.path, found.line}, "file's name", stem(found.value));
+        checkDots(findings, {sim.path, found.valueLine}, "file's name", stem(found.value));
   }
 }
 

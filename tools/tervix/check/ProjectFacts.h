@@ -65,8 +65,9 @@ struct LoadedProfile {
 };
 
 struct SimKeyFacts {
-  std::string value; // of the last line
-  std::size_t line = 0;
+  std::string value; // of the last line that has one
+  std::size_t valueLine = 0;
+  std::size_t line = 0; // the last
   std::size_t count = 0;
 };
 

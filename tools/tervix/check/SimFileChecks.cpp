@@ -131,7 +131,7 @@ private:
   void checkName(const SimFile& sim, SimKey key, const std::string& expected) {
     const SimKeyFacts& found = sim.key(key);
     if (!found.value.empty() && !isSameName(nameOf(found.value), expected))
-      findings_.add(Code::kKeyDisagrees, {sim.path, found.line},
+      findings_.add(Code::kKeyDisagrees, {sim.path, found.valueLine},
                     std::string(wordOf(key)) + " is " + inQuotes(found.value) +
                         " where its place says " + inQuotes(expected));
   }
