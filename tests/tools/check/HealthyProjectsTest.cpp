@@ -69,6 +69,16 @@ TEST(FreshProfile, NeedsNeitherNetlistNorResults) {
   EXPECT_EQ(findingsIn(project.checkedAsJson()), std::vector<std::string>());
 }
 
+TEST(LongNames, AreCountedInCharacters) {
+  const CheckedSample project(1);
+  std::string name;
+  for (int i = 0; i < 80; ++i)
+    name += "\xe6\x97\xa5";
+  project.write(name, "");
+  EXPECT_GT(project.path(name).size(), 259U);
+  EXPECT_EQ(findingsIn(project.checkedAsJson()), std::vector<std::string>());
+}
+
 TEST(NamesInSimFiles, MayDifferInCaseAndFolder) {
   const CheckedSample project(1);
   project.replace("amp-TOP-ac.sim", "\"amp.tvp\"", "\"C:\\work\\AMP.TVP\"");

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <map>
 
 #include "tools/tervix/Printable.h"
@@ -12,14 +13,23 @@ namespace {
 
 constexpr std::size_t kLongestPath = 259;
 
+// As Windows counts: characters of four bytes as two.
+std::size_t characterCount(const std::string& path) {
+  const auto isLead = [](char c) { return (static_cast<unsigned char>(c) & 0xc0U) != 0x80; };
+  const auto isLeadOfFour = [](char c) { return static_cast<unsigned char>(c) >= 0xf0; };
+  return static_cast<std::size_t>(std::count_if(path.begin(), path.end(), isLead) +
+                                  std::count_if(path.begin(), path.end(), isLeadOfFour));
+}
+
 void checkEntry(Findings& findings, const std::string& folder, const std::string& name) {
-  const std::size_t size = folder.size() + 1 + name.size();
   if (const char* reason = reasonAgainstOnWindows(name))
     findings.add(Code::kWindowsName, {folder + "/" + name},
                  inQuotes(name) + " cannot be on Windows: " + reason);
-  if (size > kLongestPath)
-    findings.add(Code::kLongPath, {folder + "/" + name},
-                 "the path has " + std::to_string(size) + " characters");
+  if (folder.size() + 1 + name.size() <= kLongestPath) // bytes, of which there are no fewer
+    return;
+  const std::string path = (folder + "/").append(name);
+  if (const std::size_t count = characterCount(path); count > kLongestPath)
+    findings.add(Code::kLongPath, {path}, "the path has " + std::to_string(count) + " characters");
 }
 
 void checkFolder(ProjectFacts& facts, Findings& findings, const std::string& folder) {
