@@ -15,6 +15,7 @@ constexpr std::size_t kColumns = 800;
 constexpr std::size_t kLongestWhole = 2 * kColumns; // points that are all drawn
 constexpr std::size_t kMostCurves = 32;             // of a plot
 constexpr std::size_t kMostPlots = 12;              // of a file
+constexpr double kLongWayBack = 0.5;                // as a share of the scale
 constexpr double kDegrees = 180 / 3.14159265358979323846;
 
 std::string counted(std::size_t count, const char* what) {
@@ -110,13 +111,25 @@ private:
     Reduction reduction(values_.size());
     file_.rewind();
     std::size_t point = 0;
+    double before = 0;
     for (std::vector<double> row; file_.nextRow(row); ++point) {
+      // A nested sweep begins again, and so does the phase.
+      const double place = placeOf(row.front());
+      if (before - place > kLongWayBack)
+        phases_.assign(phases_.size(), 0);
+      before = place;
       convert(row);
       reduction.add(columnOf(point, row.front()), row.front(), values_);
     }
     reduction.finish();
     plot_.scale.values = reduction.scale();
     raw_.isComplex ? makeBodeCharts(reduction) : makeCharts(reduction);
+  }
+
+  // How far along its axis a value of the scale is, from 0 to 1.
+  double placeOf(double scale) const {
+    return plot_.scale.isLog ? std::log(scale / extent_.low) / std::log(extent_.high / extent_.low)
+                             : (scale - extent_.low) / (extent_.high - extent_.low);
   }
 
   // Columns of equal width where the scale only rises, as a time with steps of any length;
@@ -126,9 +139,7 @@ private:
       return point;
     if (!extent_.isRising)
       return point * kColumns / extent_.points;
-    const double place = plot_.scale.isLog
-                             ? std::log(scale / extent_.low) / std::log(extent_.high / extent_.low)
-                             : (scale - extent_.low) / (extent_.high - extent_.low);
+    const double place = placeOf(scale);
     return std::isfinite(place) ? static_cast<std::size_t>(std::clamp(place, 0.0, 1.0) * kColumns)
                                 : 0;
   }
