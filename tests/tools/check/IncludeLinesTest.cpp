@@ -83,6 +83,19 @@ TEST_F(IncludeLines, InEveryCircleAreToldOnce) {
             (Found{"include-cycle a.lib:3", "include-cycle b.lib:1", "include-cycle c.lib:1"}));
 }
 
+TEST_F(IncludeLines, MayTakeASectionOfTheirOwnLibrary) {
+  project_.write("b.lib", ".lib npn.lib base ; a comment\n");
+  EXPECT_EQ(foundIn(".lib typical\n.lib 'npn.lib' base\n.lib b.lib\n.endl typical\n"
+                    ".lib base\n.model x npn\n.endl\n"),
+            Found());
+}
+
+TEST_F(IncludeLines, CloseACircleOfSections) {
+  project_.write("b.lib", ".lib fast\n.lib npn.lib \"TYPICAL\"\n.endl\n");
+  EXPECT_EQ(foundIn(".lib typical\n.lib b.lib fast\n.endl\n.lib slow\n.lib npn.lib slow\n"),
+            (Found{"include-cycle npn.lib:2", "include-cycle npn.lib:5"}));
+}
+
 TEST_F(IncludeLines, ReadAFileOnceWhateverItsName) {
   std::filesystem::create_symlink(project_.path("supply.inc"), project_.path("link.inc"));
   project_.append("supply.inc", ".inc gone.inc\n");

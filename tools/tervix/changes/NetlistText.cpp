@@ -29,6 +29,15 @@ std::string_view nameAtFront(std::string_view text, bool isQuoted) {
   return text.substr(0, text.find_first_of(" \t\r\n;"));
 }
 
+// What follows the name, unless it is a comment.
+std::string_view sectionBehind(std::string_view text) {
+  text = withoutLeadingBlanks(text.substr(std::min(text.find_first_of(" \t"), text.size())));
+  if (!text.empty() && (text.front() == '"' || text.front() == '\''))
+    return nameAtFront(text, true);
+  const std::string_view word = nameAtFront(text, false);
+  return word.substr(0, word.find('$'));
+}
+
 std::optional<IncludedFile> includedBy(std::string_view line, std::size_t number) {
   if (number == 1 && line.substr(0, kByteOrderMark.size()) == kByteOrderMark)
     line.remove_prefix(kByteOrderMark.size());
@@ -46,26 +55,58 @@ std::optional<IncludedFile> includedBy(std::string_view line, std::size_t number
   if (named.empty() || named.front() == '$')
     return std::nullopt;
   const bool isPlain = !isQuoted && named.find_first_of("./\\") == std::string_view::npos;
-  return IncludedFile{number, std::string(named), isPlain && isSameName(word, ".lib")};
+  const bool isLib = isSameName(word, ".lib");
+  // A quoted name may hold blanks.
+  const std::string_view behind =
+      rest.substr(std::min(named.size() + (isQuoted ? 2 : 0), rest.size()));
+  const std::string_view section = isLib ? sectionBehind(behind) : std::string_view();
+  return IncludedFile{
+      number, std::string(named), isPlain && isLib && section.empty(), std::string(section), {}};
 }
+
+bool endsSection(std::string_view line) {
+  constexpr std::string_view kEnd = ".endl";
+  line = withoutLeadingBlanks(line);
+  return isSameName(line.substr(0, kEnd.size()), kEnd);
+}
+
+// Line by line, with the section in which each stands.
+class Reader {
+public:
+  void take(std::string_view line) {
+    if (endsSection(line))
+      section_.clear();
+    auto file = includedBy(line, ++number_);
+    if (!file)
+      return;
+    if (file->maybeSection)
+      section_ = file->text;
+    file->within = section_;
+    files_.push_back(std::move(*file));
+  }
+
+  std::vector<IncludedFile> files() { return std::move(files_); }
+
+private:
+  std::size_t number_ = 0;
+  std::string section_;
+  std::vector<IncludedFile> files_;
+};
 
 } // namespace
 
 std::vector<IncludedFile> includedFiles(std::istream& netlist) {
-  std::vector<IncludedFile> files;
-  std::string line;
-  for (std::size_t number = 1; std::getline(netlist, line); ++number)
-    if (auto file = includedBy(line, number))
-      files.push_back(std::move(*file));
-  return files;
+  Reader reader;
+  for (std::string line; std::getline(netlist, line);)
+    reader.take(line);
+  return reader.files();
 }
 
 std::vector<IncludedFile> includedFiles(std::string_view netlist) {
-  std::vector<IncludedFile> files;
-  for (std::size_t number = 1; !netlist.empty(); ++number)
-    if (auto file = includedBy(takeLine(netlist), number))
-      files.push_back(std::move(*file));
-  return files;
+  Reader reader;
+  while (!netlist.empty())
+    reader.take(takeLine(netlist));
+  return reader.files();
 }
 
 } // namespace tervix::tool

@@ -1,6 +1,9 @@
 #include <algorithm>
+#include <map>
 #include <unordered_map>
+#include <utility>
 
+#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/changes/NetlistText.h"
 #include "tools/tervix/check/Gathering.h"
 #include "tools/tervix/check/Paths.h"
@@ -30,18 +33,21 @@ public:
     }
   }
 
-  // Each line that closes a circle, once. The way down is kept here and not on the stack, so that
-  // no chain of files is too long.
+  // Each line that closes a circle, once. A library may include a section of itself: that is a
+  // circle only if the section does. The way down is kept here and not on the stack, so that no
+  // chain of files is too long.
   void tellCycles() {
     for (std::size_t file = 0; file < files_.size(); ++file) {
-      enter(file);
+      enter(partOf(file, ""));
       while (!way_.empty()) {
-        File& last = files_[way_.back()];
-        if (last.next < last.inclusions.size()) {
-          takeInclusion(last.inclusions[last.next++]);
-        } else {
+        Part& last = parts_[way_.back()];
+        std::vector<Inclusion>& inclusions = files_[last.file].inclusions;
+        if (last.next == inclusions.size()) {
           last.state = State::kDone;
           way_.pop_back();
+        } else if (Inclusion& next = inclusions[last.next++];
+                   last.section.empty() || isSameName(last.section, next.within)) {
+          takeInclusion(next);
         }
       }
     }
@@ -53,10 +59,17 @@ private:
   struct Inclusion {
     std::size_t file;
     std::size_t line;
+    std::string section; // of the file; empty for all of it
+    std::string within;
+    bool isTold = false;
   };
   struct File {
     std::string path;
     std::vector<Inclusion> inclusions;
+  };
+  struct Part { // a file, or a section of it
+    std::size_t file;
+    std::string section;
     State state = State::kNew;
     std::size_t next = 0;
   };
@@ -64,7 +77,15 @@ private:
   std::size_t numberOf(const std::string& path) {
     const auto [number, isNew] = numbers_.emplace(facts_.index.realPathOf(path), files_.size());
     if (isNew)
-      files_.push_back({path, {}, State::kNew, 0});
+      files_.push_back({path, {}});
+    return number->second;
+  }
+
+  std::size_t partOf(std::size_t file, const std::string& section) {
+    const auto [number, isNew] =
+        partNumbers_.emplace(std::make_pair(file, lowered(section)), parts_.size());
+    if (isNew)
+      parts_.push_back({file, section, State::kNew, 0});
     return number->second;
   }
 
@@ -77,32 +98,38 @@ private:
       reference.maybeSection = line.maybeSection;
       if (reference.type == EntryType::kFile) {
         const std::size_t included = numberOf(reference.target);
-        files_[file].inclusions.push_back({included, line.line});
+        files_[file].inclusions.push_back({included, line.line, line.section, line.within, false});
       }
     }
   }
 
-  void enter(std::size_t file) {
-    if (files_[file].state != State::kNew)
+  void enter(std::size_t part) {
+    if (parts_[part].state != State::kNew)
       return;
-    files_[file].state = State::kOpen;
-    way_.push_back(file);
+    parts_[part].state = State::kOpen;
+    way_.push_back(part);
   }
 
-  void takeInclusion(const Inclusion& inclusion) {
-    if (files_[inclusion.file].state != State::kOpen)
-      return enter(inclusion.file);
-    IncludeCycle cycle{{files_[way_.back()].path, inclusion.line}, {}};
-    for (auto file = std::find(way_.begin(), way_.end(), inclusion.file); file != way_.end();
-         ++file)
-      cycle.files.push_back(files_[*file].path);
+  void takeInclusion(Inclusion& inclusion) {
+    const std::size_t file = parts_[way_.back()].file;
+    const std::size_t part = partOf(inclusion.file, inclusion.section);
+    if (parts_[part].state != State::kOpen)
+      return enter(part);
+    if (inclusion.isTold)
+      return;
+    inclusion.isTold = true;
+    IncludeCycle cycle{{files_[file].path, inclusion.line}, {}};
+    for (auto open = std::find(way_.begin(), way_.end(), part); open != way_.end(); ++open)
+      cycle.files.push_back(files_[parts_[*open].file].path);
     facts_.cycles.push_back(std::move(cycle));
   }
 
   ProjectFacts& facts_;
   std::vector<File> files_;
   std::unordered_map<std::string, std::size_t> numbers_; // by the one real path
-  std::vector<std::size_t> way_;
+  std::vector<Part> parts_;
+  std::map<std::pair<std::size_t, std::string>, std::size_t> partNumbers_;
+  std::vector<std::size_t> way_; // of parts
 };
 
 std::vector<std::string> netlistsOf(const ProjectFacts& facts) {
