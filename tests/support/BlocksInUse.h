@@ -2,8 +2,8 @@
 
 namespace tervix::testing {
 
-// How many blocks this program has got by operator new and not given back. Programs that link
-// BlocksInUse.cpp have their operator new replaced by one that counts.
+// How many blocks this program has allocated and not given back. Where its operator new can be
+// replaced for all its libraries, programs that link BlocksInUse.cpp have one that counts.
 long blocksInUse();
 
 } // namespace tervix::testing
