@@ -28,6 +28,9 @@ std::string asText(std::string content);
 // The full path of what lies there on the disk, or on the drive C where disks have letters.
 std::string fullPath(const std::string& path);
 
+// The path of a folder that is not there and that nobody can make.
+std::string impossibleFolder();
+
 [[nodiscard]] bool setModified(const std::string& file, std::time_t seconds);
 
 // A number that stays with a file, whatever its name, and differs from those of all others.

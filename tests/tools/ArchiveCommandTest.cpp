@@ -163,7 +163,15 @@ TEST_P(ArchivedSample, ShowsItsProgressOnATerminalOnly) {
   EXPECT_FALSE(contains(plain.output, "copying")) << plain.output;
 }
 
-TEST_P(ArchivedSample, KeepsNamesWithBlanksQuotesAndControlCharacters) {
+TEST_P(ArchivedSample, KeepsNamesWithBlanksAndApostrophes) {
+  const std::string strange = target_.path("it's a new folder");
+  const ToolRun run = archive({copy_.project(), strange});
+  expectDone(run);
+  EXPECT_TRUE(contains(run.output, "it's a new folder")) << run.output;
+  EXPECT_EQ(snapshotOf(strange), filesOfSample());
+}
+
+TEST_P(ArchivedSample, KeepsNamesWithQuotesAndControlCharacters) {
   const std::string strange = target_.path("it's \"new\"\x1b[31m\n folder");
   const ToolRun run = archive({copy_.project(), strange});
   expectDone(run);

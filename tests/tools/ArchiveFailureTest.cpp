@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tools/ChangedSample.h"
 #include "tests/tools/Sample.h"
@@ -67,9 +68,12 @@ TEST_P(FailingArchive, IsRefusedInTheProjectsFolder) {
   expectRefused(simFolder + "/tran/new/one", inside);
   expectRefused(projectFolder() + "/../" + fs::path(projectFolder()).filename().string() + "/new",
                 inside);
+}
+
+TEST_P(FailingArchive, IsRefusedInTheProjectsFolderReachedByALink) {
   fs::create_directory_symlink(projectFolder(), target_.path("link"));
-  expectRefused(target_.path("link/new"), inside);
-  expectRefused(target_.path("link\\new"), inside);
+  expectRefused(target_.path("link/new"), "lies in the project's own folder");
+  expectRefused(target_.path("link\\new"), "lies in the project's own folder");
 }
 
 TEST_P(FailingArchive, IsRefusedInAFolderThatALinkMakesPartOfTheProject) {
@@ -84,16 +88,19 @@ TEST_P(FailingArchive, IsRefusedInAFolderThatALinkMakesPartOfTheProject) {
 TEST_P(FailingArchive, IsRefusedWhereItWouldHoldTheProject) {
   expectRefused(folder_, "it holds the project");
   expectRefused(folder_ + "/work", "it holds the project");
-  expectRefused("/", "it holds the project");
+  expectRefused(fs::path(folder_).root_path().generic_string(), "it holds the project");
 }
 
 TEST_P(FailingArchive, IsRefusedWhereSomethingStands) {
   target_.file("full/letter.txt", "somebody's");
   target_.file("file", "somebody's");
-  fs::create_symlink("nowhere", target_.path("lost"));
   expectRefused(target_.path("full"), "it is not empty");
   expectRefused(target_.path("file"), "is not a folder");
   expectRefused(target_.path("file/below/it"), "is not a folder");
+}
+
+TEST_P(FailingArchive, IsRefusedWhereALinkLeadsNowhere) {
+  fs::create_symlink("nowhere", target_.path("lost"));
   expectRefused(target_.path("lost"), "is a link that leads nowhere");
   expectRefused(target_.path("lost/below"), "is a link that leads nowhere");
 }
@@ -113,9 +120,23 @@ TEST_P(FailingArchive, NeedsTheNameOfAFolder) {
 }
 
 TEST_P(FailingArchive, IsRefusedForAFolderThatCannotBeMade) {
-  const ToolRun run = runTool({"archive", copy_.project(), "/proc/new"});
+  const std::string folder = impossibleFolder();
+  const ToolRun run = runTool({"archive", copy_.project(), folder});
   EXPECT_EQ(run.status, 1);
-  EXPECT_TRUE(contains(run.errors, "the folder \"/proc/new\" could not be made")) << run.errors;
+  EXPECT_TRUE(contains(run.errors, "the folder \"" + folder + "\" could not be made"))
+      << run.errors;
+}
+
+TEST_P(FailingArchive, IsNotMadeUnderANameThatIsTooLong) {
+  const Everything before = everything();
+  const ToolRun run =
+      runTool({"archive", copy_.project(), target_.path(std::string(300, 'x')), "--json"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.output, "");
+  EXPECT_EQ(everything(), before);
+}
+
+TEST_P(FailingArchive, IsRefusedUnderANameThatIsTooLong) {
   expectRefused(target_.path(std::string(300, 'x')), "the archive cannot be made in");
 }
 

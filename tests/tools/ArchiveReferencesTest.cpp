@@ -176,16 +176,23 @@ TEST_P(ArchivedReferences, LeadIntoTheArchiveAlsoWhereAFileIsMissing) {
   EXPECT_FALSE(fs::exists(archived() + "/external"));
 }
 
-TEST_P(ArchivedReferences, TellOfFoldersAndFifosInPlaceOfAFile) {
+TEST_P(ArchivedReferences, TellOfFoldersInPlaceOfAFile) {
   fs::create_directories(beside_ + "/models/x.lib");
-  ASSERT_TRUE(makePipe(beside_ + "/models/y.lib"));
-  nameLibrary("\"" + beside_ + "/models/x.lib\", \"" + beside_ + "/models/y.lib\"");
+  nameLibrary("\"" + beside_ + "/models/x.lib\"");
   const ToolRun run = archiveIt();
   EXPECT_TRUE(contains(run.output, "folder  " + beside_ + "/models/x.lib: is a folder"))
       << run.output;
+  EXPECT_EQ(opened()["designLevelFiles"][0]["exists"], false);
+}
+
+TEST_P(ArchivedReferences, TellOfFifosInPlaceOfAFile) {
+  fs::create_directories(beside_ + "/models");
+  ASSERT_TRUE(makePipe(beside_ + "/models/y.lib"));
+  nameLibrary("\"" + beside_ + "/models/y.lib\"");
+  const ToolRun run = archiveIt();
   EXPECT_TRUE(contains(run.output, "special  " + beside_ + "/models/y.lib: is not a regular"))
       << run.output;
-  EXPECT_EQ(opened()["designLevelFiles"][1]["exists"], false);
+  EXPECT_EQ(opened()["designLevelFiles"][0]["exists"], false);
 }
 
 TEST_P(ArchivedReferences, FollowLinksOutOfTheProject) {
@@ -200,7 +207,15 @@ TEST_P(ArchivedReferences, FollowLinksOutOfTheProject) {
   EXPECT_EQ(contentOf(files[1]["path"]), "beside the models");
 }
 
-TEST_P(ArchivedReferences, HoldBlanksQuotesAndControlCharacters) {
+TEST_P(ArchivedReferences, HoldBlanksAndApostrophes) {
+  writeFile(beside_ + "/it's a folder/an opamp.lib", "outside");
+  nameLibrary("\"" + beside_ + "/it's a folder/an opamp.lib\"");
+  archiveIt();
+  const auto library = opened()["designLevelFiles"][0];
+  EXPECT_EQ(contentOf(library["path"]), "outside");
+}
+
+TEST_P(ArchivedReferences, HoldQuotesAndControlCharacters) {
   const std::string folder = "it's a\x01 \"folder\"";
   writeFile(beside_ + "/" + folder + "/an opamp.lib", "outside");
   nameLibrary("\"" + beside_ + "/it's a\\u0001 \\\"folder\\\"/an opamp.lib\"");
@@ -274,9 +289,10 @@ TEST_P(ArchivedReferences, LeaveTheNameExternalToTheProject) {
                        (GetParam() < 2 ? "" : fs::path(sample().project).begin()->string());
   writeFile((top / "External/own.lib").string(), "the project's own");
   writeFile(beside_ + "/models/x.lib", "outside");
-  nameLibrary("\"" +
-              fs::path(top / "External/own.lib").lexically_relative(projectFolder()).string() +
-              "\", \"" + beside_ + "/models/x.lib\"");
+  nameLibrary(
+      "\"" +
+      fs::path(top / "External/own.lib").lexically_relative(projectFolder()).generic_string() +
+      "\", \"" + beside_ + "/models/x.lib\"");
   archiveIt();
   const auto files = opened()["designLevelFiles"];
   EXPECT_EQ(contentOf(files[0]["path"]), "the project's own");

@@ -67,6 +67,10 @@ std::string fullPath(const std::string& path) {
   return path;
 }
 
+std::string impossibleFolder() {
+  return "/proc/new";
+}
+
 bool setModified(const std::string& file, std::time_t seconds) {
   const std::array<timespec, 2> times = {{{seconds, 0}, {seconds, 999999999}}};
   return utimensat(AT_FDCWD, file.c_str(), times.data(), 0) == 0;

@@ -60,6 +60,10 @@ std::string fullPath(const std::string& path) {
   return "C:" + path;
 }
 
+std::string impossibleFolder() {
+  return "C:/a|b";
+}
+
 bool setModified(const std::string& file, std::time_t seconds) {
   constexpr ULONGLONG kTicksPerSecond = 10'000'000;
   constexpr ULONGLONG kSecondsFrom1601To1970 = 11'644'473'600;
