@@ -31,6 +31,7 @@ constexpr const char* kTerminal = "the terminal that the test runs the tool on i
 constexpr const char* kOwnReader = "the design reader beside the library comes first on Windows";
 constexpr const char* kUncopyable =
     "pipes and devices are what no copy can be made of on Unix; see FileInUse for Windows";
+constexpr const char* kArguments = "no argument on Windows can be as long, or be no text";
 constexpr const char* kNoOverwrite =
     "the test's own std::filesystem::copy overwrites nothing with MinGW 12";
 constexpr const char* kRoot = "Wine lets root write to read-only files";
@@ -130,6 +131,17 @@ constexpr SkippedTest kSkippedTests[] = {
     {"tervix_tool_tests", "All/FailingArchive.IsTakenBackWhenTheDiskIsFull/*", kNoLimits},
     {"tervix_tool_tests", "All/FailingArchive.IsRefusedUnderANameThatIsTooLong/*", kLongNames},
     {"tervix_tool_tests", "All/FailingArchive.IsTakenBackWhereverAPathGetsTooLong/*", kLongPaths},
+    {"tervix_hostile_tests", "All/BadNewName.IsRefusedWhateverTheSystemPasses/*", kArguments},
+    {"tervix_hostile_tests", "By/Trapped.*/*Link*", kNoLinks},
+    {"tervix_report_tests", "ReportCommand.SeesThroughLinks", kNoLinks},
+    {"tervix_report_tests", "ReportCommand.LeavesNothingOnAFullDisk", kNoLimits},
+    {"tervix_report_tests", "ReportCommand.KeepsTheEarlierReportOnAFullDisk", kNoLimits},
+    {"tervix_report_tests", "ReportCommand.IsSilentOnATerminalInTheEnd", kTerminal},
+    {"tervix_report_tests", "With/HostileName.*/MarksOfHtml", kImpossibleNames},
+    {"tervix_report_tests", "With/HostileName.*/CommentAndScript", kImpossibleNames},
+    {"tervix_report_tests", "With/HostileName.*/EndOfTitle", kImpossibleNames},
+    {"tervix_report_tests", "With/HostileName.*/ControlCharacters", kImpossibleNames},
+    {"tervix_report_tests", "With/HostileName.*/BytesThatAreNoUtf8", kImpossibleNames},
     {"tervix_tool_tests", "FilesCommand.TakesAFolderOrAFifoForNoFile", kNoPipes},
     {"tervix_tool_tests", "ArchiveOfFolders.PassesOverWhatIsNoFileAndTells", kNoPipes},
     {"tervix_tool_tests", "UnreadableFile.IsToldWhenItsNameIsTooLong", kLongNames},
