@@ -68,6 +68,11 @@ tervix_add_loader_test(not_in_the_current_folder FindsNoDesignReaderInTheCurrent
   ${no_design_reader} "")
 tervix_add_loader_test(not_in_the_current_folder_by_its_name FindsNoDesignReaderInTheCurrentFolder
   ${no_design_reader} ".")
+# An empty entry of the path is none.
+tervix_add_loader_test(not_in_the_current_folder_by_an_empty_entry
+  FindsNoDesignReaderInTheCurrentFolder ${no_design_reader} "\;")
+tervix_add_loader_test(beside_the_library_after_an_empty_entry FindsTheReadersBesideTheLibrary
+  ${no_design_reader} "\;Z:${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 tervix_add_loader_test(own_design PrefersADesignReaderOnItsPath
   ${no_design_reader} Z:${stub_folder}/own_design)
 tervix_add_loader_test(own_design_again LoadsADesignReaderEachTime
