@@ -10,6 +10,9 @@
 namespace tervix::testing {
 namespace {
 
+// One in thousands of starts fails with Wine on a busy machine; the program has not run then.
+constexpr int kStartAttempts = 3;
+
 struct HandleCloser {
   void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
@@ -91,11 +94,12 @@ int runCommand(std::vector<std::string> command, const RunOptions& options,
   std::wstring variables = environment(options.environment);
   const std::wstring folder = wide(options.folder);
   PROCESS_INFORMATION process{};
-  const BOOL isStarted =
-      CreateProcessW(wide(command.front()).c_str(), line.data(), nullptr, nullptr, TRUE,
-                     CREATE_UNICODE_ENVIRONMENT, variables.data(),
-                     folder.empty() ? nullptr : folder.c_str(), &start, &process);
-  EXPECT_NE(isStarted, 0) << command.front();
+  BOOL isStarted = 0;
+  for (int attempt = 1; isStarted == 0 && attempt <= kStartAttempts; ++attempt)
+    isStarted = CreateProcessW(wide(command.front()).c_str(), line.data(), nullptr, nullptr, TRUE,
+                               CREATE_UNICODE_ENVIRONMENT, variables.data(),
+                               folder.empty() ? nullptr : folder.c_str(), &start, &process);
+  EXPECT_NE(isStarted, 0) << command.front() << ": error " << GetLastError();
   if (isStarted == 0)
     return -1;
   const OwnedHandle thread(process.hThread);
