@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -118,7 +119,9 @@ CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, P
     return checked;
   }
   checked.project->getPath(checked.path);
-  ProjectFacts facts = gatherFacts(*checked.project, ahead, progress);
+  // Kept to the end, as the project is: freeing them text by text takes a tenth of the whole time.
+  static auto& kept = *new std::deque<ProjectFacts>;
+  ProjectFacts& facts = kept.emplace_back(gatherFacts(*checked.project, ahead, progress));
   checked.findings = findingsIn(facts, progress);
   checked.named = namedIn(facts);
   return checked;
