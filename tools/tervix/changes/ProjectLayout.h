@@ -1,11 +1,17 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "CTervixProject.h"
 
 namespace tervix::tool {
+
+// Where simulation projects keep the files of profiles: front end 2 in a folder that begins with
+// the project's name, front end 1 in one of this name.
+inline constexpr std::string_view kFilesFolderEnding = "-TervixFiles";
+inline constexpr std::string_view kProfilesFolder = "profiles";
 
 // Where the files of a schematic or profile lie.
 struct SchematicPlaces {
@@ -42,7 +48,7 @@ struct ProjectLayout {
   bool placesAllLike(const ProjectLayout& other) const;
 
   // Where all files of a simulation project for front end 2 lie.
-  std::string filesFolder() const { return folder + "/" + project + "-TervixFiles"; }
+  std::string filesFolder() const { return (folder + "/" + project).append(kFilesFolderEnding); }
 };
 
 ProjectLayout layoutOf(CTervixProject& project);

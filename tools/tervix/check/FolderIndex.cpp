@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <tuple>
 
@@ -118,7 +119,9 @@ bool FolderIndex::isOwn(const std::string& path) const {
   return liesBelow(path, root_);
 }
 
-const FolderIndex::Entry* FolderIndex::entryAt(const std::string& path) {
+template <class IsWanted>
+const FolderIndex::Entry* FolderIndex::entryInAnyCase(const std::string& path,
+                                                      const IsWanted& isWanted) {
   const std::size_t end = path.rfind('/');
   const std::string_view name = std::string_view(path).substr(end + 1);
   const std::vector<Entry>& entries = folderAt(std::string_view(path).substr(0, end)).entries;
@@ -126,9 +129,13 @@ const FolderIndex::Entry* FolderIndex::entryAt(const std::string& path) {
   auto entry = std::lower_bound(entries.begin(), entries.end(), key,
                                 [](const Entry& a, const std::string& b) { return a.key < b; });
   for (; entry != entries.end() && entry->key == key; ++entry)
-    if (entry->name == name)
+    if (isWanted(entry->name, name))
       return &*entry;
   return nullptr;
+}
+
+const FolderIndex::Entry* FolderIndex::entryAt(const std::string& path) {
+  return entryInAnyCase(path, std::equal_to<>());
 }
 
 EntryType FolderIndex::typeOf(const std::string& path) {
@@ -149,17 +156,8 @@ bool FolderIndex::isLink(const std::string& path) {
 }
 
 std::optional<std::string> FolderIndex::twinOf(const std::string& path) {
-  if (!isOwn(path))
-    return std::nullopt;
-  const std::vector<Entry>& entries = folder(folderOf(path)).entries;
-  const std::string name = nameOf(path);
-  const std::string key = lowered(name);
-  auto entry = std::lower_bound(entries.begin(), entries.end(), key,
-                                [](const Entry& a, const std::string& b) { return a.key < b; });
-  for (; entry != entries.end() && entry->key == key; ++entry)
-    if (entry->name != name)
-      return entry->name;
-  return std::nullopt;
+  const Entry* twin = isOwn(path) ? entryInAnyCase(path, std::not_equal_to<>()) : nullptr;
+  return twin != nullptr ? std::optional(twin->name) : std::nullopt;
 }
 
 std::optional<std::string> FolderIndex::spelledPathOf(const std::string& path) {

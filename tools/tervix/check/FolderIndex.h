@@ -58,6 +58,9 @@ public:
 
 private:
   const Folder& folderAt(std::string_view path);
+  // The entry that differs from the path in case at most, and whose name is wanted beside its name.
+  template <class IsWanted>
+  const Entry* entryInAnyCase(const std::string& path, const IsWanted& isWanted);
   const Entry* entryAt(const std::string& path);
   const std::string& realFolder(const std::string& path);
   bool isOwn(const std::string& path) const;

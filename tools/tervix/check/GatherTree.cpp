@@ -88,7 +88,7 @@ void gatherFolders(ProjectFacts& facts, Progress& progress) {
     return;
   }
   const std::string top =
-      layout.hasDesignFile() ? layout.filesFolder() : layout.folder + "/profiles";
+      layout.hasDesignFile() ? layout.filesFolder() : (layout.folder + "/").append(kProfilesFolder);
   if (facts.index.typeOf(top) != EntryType::kFolder)
     return;
   const std::vector<std::string> tree = treeBelow(facts, top);

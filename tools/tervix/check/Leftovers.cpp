@@ -13,7 +13,6 @@ namespace tervix::tool {
 namespace {
 
 constexpr const char* kBackupEnding = ".bak";
-constexpr const char* kFilesFolderEnding = "-TervixFiles";
 // How every file begins that the tool or the library makes for the time of a change.
 constexpr const char* kWorkPrefix = ".tervix-";
 
@@ -143,8 +142,7 @@ void checkFolders(ProjectFacts& facts, Findings& findings) {
   forEachFolder(facts.index, folder, [&](const std::string& path, const std::string& name) {
     if (!endsWith(name, kFilesFolderEnding))
       return;
-    const std::string project =
-        name.substr(0, name.size() - std::string(kFilesFolderEnding).size()) + ".tvp";
+    const std::string project = name.substr(0, name.size() - kFilesFolderEnding.size()) + ".tvp";
     if (!hasEntry(facts.index, folder, project))
       findings.add(Code::kOrphanFolder, {path},
                    "the files of a project without " + inQuotes(project) + " beside them");

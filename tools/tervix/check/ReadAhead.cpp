@@ -5,6 +5,7 @@
 #include <limits>
 #include <system_error>
 
+#include "tools/tervix/changes/ProjectLayout.h"
 #include "tools/tervix/check/Paths.h"
 
 namespace tervix::tool {
@@ -29,9 +30,8 @@ bool isRead(const std::string& name) {
 ReadAhead::ReadAhead(const std::string& projectFile) {
   if (!endsWith(projectFile, ".tvp"))
     return;
-  // Front end 2 keeps the files of profiles in the one, front end 1 in the other.
-  toList_ = {folderOf(projectFile) + "/profiles",
-             projectFile.substr(0, projectFile.size() - 4) + "-TervixFiles"};
+  toList_ = {(folderOf(projectFile) + "/").append(kProfilesFolder),
+             projectFile.substr(0, projectFile.size() - 4).append(kFilesFolderEnding)};
   fetch(kFirst);
   if (toList_.empty())
     return;
