@@ -71,6 +71,17 @@ bool isSameName(std::string_view a, std::string_view b) {
                     [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
+int compareNames(std::string_view a, std::string_view b) {
+  const std::size_t both = std::min(a.size(), b.size());
+  for (std::size_t i = 0; i < both; ++i) {
+    const auto x = static_cast<unsigned char>(lowered(a[i]));
+    const auto y = static_cast<unsigned char>(lowered(b[i]));
+    if (x != y)
+      return x - y;
+  }
+  return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
+}
+
 std::string lowered(std::string_view text) {
   std::string result(text);
   for (char& c : result)

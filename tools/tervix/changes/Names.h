@@ -15,6 +15,8 @@ const char* reasonAgainstOnWindows(const std::string& fileName);
 
 // Whether two names are the same to a file system that ignores case.
 bool isSameName(std::string_view a, std::string_view b);
+// Below, at or above 0 as a comes before b, is the same name, or comes after it.
+int compareNames(std::string_view a, std::string_view b);
 // In lower case, as far as isSameName goes.
 std::string lowered(std::string_view text);
 

@@ -49,18 +49,6 @@ std::string fullPathOf(const std::string& file) {
   return fs::absolute(forward).lexically_normal().generic_string();
 }
 
-std::vector<std::string> namedIn(const ProjectFacts& facts) {
-  std::vector<std::string> named;
-  for (const Reference& reference : facts.references)
-    named.push_back(reference.target);
-  for (const SimFile& sim : facts.sims)
-    named.push_back(sim.path);
-  for (const LoadedProfile& profile : facts.loaded)
-    if (!profile.includeList.empty())
-      named.push_back(profile.includeList);
-  return named;
-}
-
 std::vector<Finding> findingsIn(ProjectFacts& facts, Progress& progress) {
   progress.tell("comparing files", facts.references.size() + facts.sims.size());
   Findings findings(facts.layout);
@@ -100,6 +88,20 @@ std::vector<Finding> Findings::sorted() const {
   return findings;
 }
 
+std::vector<std::string> namedIn(const CheckedProject& checked) {
+  std::vector<std::string> named;
+  if (checked.facts == nullptr)
+    return named;
+  for (const Reference& reference : checked.facts->references)
+    named.push_back(reference.target);
+  for (const SimFile& sim : checked.facts->sims)
+    named.push_back(sim.path);
+  for (const LoadedProfile& profile : checked.facts->loaded)
+    if (!profile.includeList.empty())
+      named.push_back(profile.includeList);
+  return named;
+}
+
 void requireCheckable(const std::string& file) {
   if (std::error_code error; !fs::is_regular_file(fullPathOf(file), error))
     throw Failure(inQuotes(file) + " is not a file that is there", kWrongUsage);
@@ -123,7 +125,7 @@ CheckedProject checkFile(const std::string& file, std::optional<int> frontEnd, P
   static auto& kept = *new std::deque<ProjectFacts>;
   ProjectFacts& facts = kept.emplace_back(gatherFacts(*checked.project, ahead, progress));
   checked.findings = findingsIn(facts, progress);
-  checked.named = namedIn(facts);
+  checked.facts = &facts;
   return checked;
 }
 

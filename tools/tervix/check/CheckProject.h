@@ -10,12 +10,17 @@
 
 namespace tervix::tool {
 
+struct ProjectFacts;
+
 struct CheckedProject {
   std::string path;                  // of the project file, or of the file that could not be opened
   CTervixProject* project = nullptr; // null when it could not be opened, which is then a finding
   std::vector<Finding> findings;     // worst first, file by file
-  std::vector<std::string> named;    // full paths that files of the project name, to any depth
+  const ProjectFacts* facts = nullptr; // null as project; kept, as that is, to the process's end
 };
+
+// The full paths that files of the project name, to any depth.
+std::vector<std::string> namedIn(const CheckedProject& checked);
 
 // Throws a Failure of wrong usage for a file that is not there.
 void requireCheckable(const std::string& file);

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <functional>
 #include <iterator>
-#include <tuple>
 
 #include "foundation/platform/Platform.h"
 #include "tools/tervix/changes/Names.h"
@@ -39,8 +38,7 @@ EntryType askedType(const std::string& path) {
 }
 
 FolderIndex::Entry entryOf(const std::string& folder, platform::FolderEntry& listed) {
-  FolderIndex::Entry entry{std::move(listed.name), {}, EntryType::kOther, false};
-  entry.key = lowered(entry.name);
+  FolderIndex::Entry entry{std::move(listed.name), EntryType::kOther, false, {}};
   if (listed.kind == platform::EntryKind::kFile)
     entry.type = EntryType::kFile;
   else if (listed.kind == platform::EntryKind::kFolder)
@@ -54,6 +52,11 @@ FolderIndex::Entry entryOf(const std::string& folder, platform::FolderEntry& lis
   return entry;
 }
 
+bool comesBefore(const FolderIndex::Entry& a, const FolderIndex::Entry& b) {
+  const int order = compareNames(a.name, b.name);
+  return order < 0 || (order == 0 && a.name < b.name);
+}
+
 } // namespace
 
 FolderIndex::Folder listedFolder(const std::string& path) {
@@ -63,10 +66,7 @@ FolderIndex::Folder listedFolder(const std::string& path) {
   for (platform::FolderEntry& entry : entries ? *entries : std::vector<platform::FolderEntry>())
     if (entry.name != "." && entry.name != "..")
       folder.entries.push_back(entryOf(path, entry));
-  std::sort(folder.entries.begin(), folder.entries.end(),
-            [](const FolderIndex::Entry& a, const FolderIndex::Entry& b) {
-              return std::tie(a.key, a.name) < std::tie(b.key, b.name);
-            });
+  std::sort(folder.entries.begin(), folder.entries.end(), comesBefore);
   return folder;
 }
 
@@ -85,12 +85,7 @@ std::optional<std::string> readText(const std::string& path, std::size_t most) {
   return count && text.size() <= most ? std::optional(std::move(text)) : std::nullopt;
 }
 
-void FolderIndex::take(FetchedFolders fetched) {
-  folders_.merge(fetched.folders);
-  texts_.merge(fetched.texts);
-}
-
-const FolderIndex::Folder& FolderIndex::folderAt(std::string_view path) {
+FolderIndex::Folder& FolderIndex::folderAt(std::string_view path) {
   if (last_ != nullptr && lastPath_ == path)
     return *last_;
   lastPath_ = path;
@@ -115,26 +110,26 @@ void FolderIndex::listAhead(const std::vector<std::string>& paths) {
     folders_.emplace(unknown[i], std::move(folders[i]));
 }
 
-bool FolderIndex::isOwn(const std::string& path) const {
+bool FolderIndex::isOwn(std::string_view path) const {
   return liesBelow(path, root_);
 }
 
 template <class IsWanted>
-const FolderIndex::Entry* FolderIndex::entryInAnyCase(const std::string& path,
+const FolderIndex::Entry* FolderIndex::entryInAnyCase(std::string_view path,
                                                       const IsWanted& isWanted) {
   const std::size_t end = path.rfind('/');
-  const std::string_view name = std::string_view(path).substr(end + 1);
-  const std::vector<Entry>& entries = folderAt(std::string_view(path).substr(0, end)).entries;
-  const std::string key = lowered(name);
-  auto entry = std::lower_bound(entries.begin(), entries.end(), key,
-                                [](const Entry& a, const std::string& b) { return a.key < b; });
-  for (; entry != entries.end() && entry->key == key; ++entry)
+  const std::string_view name = path.substr(end + 1);
+  const std::vector<Entry>& entries = folderAt(path.substr(0, end)).entries;
+  auto entry = std::lower_bound(
+      entries.begin(), entries.end(), name,
+      [](const Entry& a, std::string_view b) { return compareNames(a.name, b) < 0; });
+  for (; entry != entries.end() && isSameName(entry->name, name); ++entry)
     if (isWanted(entry->name, name))
       return &*entry;
   return nullptr;
 }
 
-const FolderIndex::Entry* FolderIndex::entryAt(const std::string& path) {
+const FolderIndex::Entry* FolderIndex::entryAt(std::string_view path) {
   return entryInAnyCase(path, std::equal_to<>());
 }
 
@@ -179,25 +174,22 @@ std::optional<std::string> FolderIndex::spelledPathOf(const std::string& path) {
   return isFile(spelled) ? std::optional(spelled) : std::nullopt;
 }
 
-const std::string& FolderIndex::realFolder(const std::string& path) {
-  if (const auto found = realFolders_.find(path); found != realFolders_.end())
-    return found->second;
-  std::string real;
-  if (isOwn(path) && !isLink(path)) {
-    real = realFolder(folderOf(path)) + "/" + nameOf(path);
-  } else {
-    std::error_code error;
-    real = fs::canonical(path, error).generic_string();
-    if (error)
-      real = path;
-  }
-  return realFolders_.emplace(path, std::move(real)).first->second;
+std::string FolderIndex::realFolder(const std::string& path) {
+  std::string& real = folderAt(path).realPath;
+  if (real.empty())
+    real = realPathOf(path);
+  return real;
 }
 
 std::string FolderIndex::realPathOf(const std::string& path) {
   if (isOwn(path) && !isLink(path))
-    return realFolder(folderOf(path)) + "/" + nameOf(path);
-  return realFolder(path);
+    return realFolder(folderOf(path)).append(path, path.rfind('/'));
+  std::string& real = realPaths_[path];
+  if (!real.empty())
+    return real;
+  std::error_code error;
+  real = fs::canonical(path, error).generic_string();
+  return error ? real = path : real;
 }
 
 bool FolderIndex::isDirectlyIn(const std::string& path, const std::string& folder) {
@@ -205,19 +197,29 @@ bool FolderIndex::isDirectlyIn(const std::string& path, const std::string& folde
          realPathOf(path) == realFolder(folder) + path.substr(folder.size());
 }
 
-std::optional<std::string> FolderIndex::text(const std::string& path) const {
-  const auto fetched = texts_.find(path);
-  return fetched != texts_.end() ? fetched->second : readText(path, kLargestText);
+const std::string* FolderIndex::textAhead(std::string_view path) {
+  const Entry* entry = isOwn(path) ? entryAt(path) : nullptr;
+  return entry != nullptr && entry->text ? &*entry->text : nullptr;
 }
 
-std::vector<std::optional<std::string>>
-FolderIndex::texts(const std::vector<std::string>& paths) const {
-  std::vector<std::optional<std::string>> texts(paths.size());
+std::optional<std::string> FolderIndex::text(const std::string& path) {
+  const std::string* ahead = textAhead(path);
+  return ahead != nullptr ? *ahead : readText(path, kLargestText);
+}
+
+void FolderIndex::eachText(const std::vector<const std::string*>& paths, const TakeText& take) {
+  std::vector<bool> areFiles;
+  std::vector<const std::string*> ahead;
+  for (const std::string* path : paths) {
+    areFiles.push_back(isFile(*path));
+    ahead.push_back(textAhead(*path));
+  }
   inParallel(paths.size(), [&](std::size_t i) {
-    if (!paths[i].empty())
-      texts[i] = text(paths[i]);
+    if (ahead[i] != nullptr)
+      take(i, *ahead[i]);
+    else if (areFiles[i])
+      take(i, readText(*paths[i], kLargestText));
   });
-  return texts;
 }
 
 } // namespace tervix::tool

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,29 +12,29 @@ namespace tervix::tool {
 
 enum class EntryType { kMissing, kFile, kFolder, kOther };
 
-struct FetchedFolders;
-
 // What stands on disk, each folder listed once: a project of thousands of profiles is asked about
 // without a call to the system for every file.
 class FolderIndex {
 public:
   struct Entry {
     std::string name;
-    std::string key; // the name in lower case
-    EntryType type;  // of a link, what it leads to
+    EntryType type; // of a link, what it leads to
     bool isLink;
+    std::optional<std::string> text; // where it was read before it was asked for
   };
 
   struct Folder {
     bool isListed = false;      // it is a folder that can be read
-    std::vector<Entry> entries; // names that differ only in case stand together
+    std::vector<Entry> entries; // in the order of compareNames
+    std::string realPath;       // once it was asked for
   };
+  using Folders = std::unordered_map<std::string, Folder>;
 
   // Folders below root are listed; of files elsewhere each is asked for by itself.
   explicit FolderIndex(std::string root) : root_(std::move(root)) {}
 
-  // What was read before it was asked for.
-  void take(FetchedFolders fetched);
+  // What was listed before it was asked for.
+  void take(Folders folders) { folders_.merge(folders); }
 
   const Folder& folder(const std::string& path);
   // Lists many at once, which is faster.
@@ -52,33 +53,29 @@ public:
   std::string realPathOf(const std::string& path);
 
   // The bytes of a file; none when it cannot be read, or is larger than a text that people write.
-  std::optional<std::string> text(const std::string& path) const;
-  // Reads a number of files, many at once; a path that is empty is passed over.
-  std::vector<std::optional<std::string>> texts(const std::vector<std::string>& paths) const;
+  std::optional<std::string> text(const std::string& path);
+  // Hands over the bytes of each file by its number, from several threads at once, so that no more
+  // of them are held than are being looked at. What is no file is passed over.
+  using TakeText = std::function<void(std::size_t, std::optional<std::string_view>)>;
+  void eachText(const std::vector<const std::string*>& paths, const TakeText& take);
 
 private:
-  const Folder& folderAt(std::string_view path);
+  Folder& folderAt(std::string_view path);
   // The entry that differs from the path in case at most, and whose name is wanted beside its name.
   template <class IsWanted>
-  const Entry* entryInAnyCase(const std::string& path, const IsWanted& isWanted);
-  const Entry* entryAt(const std::string& path);
-  const std::string& realFolder(const std::string& path);
-  bool isOwn(const std::string& path) const;
+  const Entry* entryInAnyCase(std::string_view path, const IsWanted& isWanted);
+  const Entry* entryAt(std::string_view path);
+  const std::string* textAhead(std::string_view path);
+  std::string realFolder(const std::string& path);
+  bool isOwn(std::string_view path) const;
 
   std::string root_;
-  std::unordered_map<std::string, Folder> folders_;
-  std::unordered_map<std::string, std::string> texts_; // that were fetched
+  Folders folders_;
   // The folder that was asked for last: files are asked for folder by folder.
   std::string lastPath_;
-  const Folder* last_ = nullptr;
+  Folder* last_ = nullptr;
   std::unordered_map<std::string, EntryType> elsewhere_;
-  std::unordered_map<std::string, std::string> realFolders_;
-};
-
-// What has been read already, by full path.
-struct FetchedFolders {
-  std::unordered_map<std::string, FolderIndex::Folder> folders;
-  std::unordered_map<std::string, std::string> texts;
+  std::unordered_map<std::string, std::string> realPaths_; // of links, and elsewhere
 };
 
 FolderIndex::Folder listedFolder(const std::string& path);

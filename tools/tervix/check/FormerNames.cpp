@@ -16,9 +16,10 @@ namespace {
 // Files by the stem in their name, in lower case.
 using FilesByStem = std::map<std::string, std::vector<std::string>>;
 
-bool isNamedAfter(const std::string& key, const std::string& stem) {
-  return key.size() > stem.size() && key.compare(0, stem.size(), stem) == 0 &&
-         (key[stem.size()] == '.' || key.compare(stem.size(), key.size(), kIncludeListEnding) == 0);
+bool isNamedAfter(std::string_view file, std::string_view stem) {
+  const std::string_view ending = file.substr(std::min(stem.size(), file.size()));
+  return isSameName(file.substr(0, stem.size()), stem) && !ending.empty() &&
+         (ending.front() == '.' || isSameName(ending, kIncludeListEnding));
 }
 
 // What stands before the ending of a profile's file; empty when the name has none.
@@ -52,11 +53,11 @@ void checkProfileFolder(ProjectFacts& facts, Findings& findings, const SimFile& 
   const std::string folder = sim.path.substr(0, sim.path.size() - 4);
   if (facts.index.typeOf(folder) != EntryType::kFolder)
     return;
-  const std::string own = lowered(nameOf(folder));
+  const std::string own = nameOf(folder);
   FilesByStem former;
   for (const FolderIndex::Entry& entry : facts.index.folder(folder).entries)
-    if (entry.type == EntryType::kFile && !isNamedAfter(entry.key, own))
-      if (const std::string stem = profileStemOf(entry.key);
+    if (entry.type == EntryType::kFile && !isNamedAfter(entry.name, own))
+      if (const std::string stem = profileStemOf(lowered(entry.name));
           !stem.empty() && stemsOf(sim).count(stem) == 0)
         former[stem].push_back(entry.name);
   for (const auto& [stem, files] : former)
@@ -67,13 +68,13 @@ void checkProfileFolder(ProjectFacts& facts, Findings& findings, const SimFile& 
 bool isProfileFile(const ProjectFacts& facts, const FolderIndex::Entry& entry,
                    const std::string& stem) {
   for (const char* ending : {".sim.cir", ".sim.1op", ".sim.mif"})
-    if (endsWith(entry.key, ending) && !facts.isFrontEnd2())
+    if (endsWith(entry.name, ending) && !facts.isFrontEnd2())
       return true;
   const auto isOf = [&](const PlacedName& schematic) {
     const std::string prefix = lowered(facts.layout.design + "-" + schematic.name + "-");
     return stem.size() > prefix.size() && stem.rfind(prefix, 0) == 0;
   };
-  return facts.isFrontEnd2() && !endsWith(entry.key, "-default.mrk") &&
+  return facts.isFrontEnd2() && !endsWith(entry.name, "-default.mrk") &&
          std::any_of(facts.schematics.begin(), facts.schematics.end(), isOf);
 }
 
@@ -83,7 +84,7 @@ void checkSharedFolder(ProjectFacts& facts, Findings& findings) {
     stems.merge(stemsOf(sim));
   FilesByStem former;
   for (const FolderIndex::Entry& entry : facts.index.folder(facts.layout.folder).entries)
-    if (const std::string stem = profileStemOf(entry.key);
+    if (const std::string stem = profileStemOf(lowered(entry.name));
         !stem.empty() && entry.type == EntryType::kFile && stems.count(stem) == 0 &&
         isProfileFile(facts, entry, stem))
       former[stem].push_back(entry.name);

@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
 #include "tools/tervix/changes/IncludeList.h"
 #include "tools/tervix/check/Gathering.h"
 #include "tools/tervix/check/Paths.h"
@@ -7,27 +11,37 @@ namespace {
 
 constexpr std::array<Role, 3> kRoles = {Role::kLibrary, Role::kStimulus, Role::kInclude};
 
+struct Entry {
+  VARIANTFILE_TYPE kind;
+  std::size_t line;
+  std::string value;
+};
+
+struct ReadList {
+  bool isRead = false;
+  std::vector<Entry> loaded;
+  std::vector<DroppedLine> dropped;
+};
+
 // What the library loaded from the list are the lines of the list in their order, less those that
 // it dropped: a line that is not the next one loaded is one of these.
 class ListComparison {
 public:
-  ListComparison(ProjectFacts& facts, const LoadedProfile& profile)
-      : facts_(facts), profile_(profile) {}
+  ListComparison(const LoadedProfile& profile, ReadList& list) : profile_(profile), list_(list) {}
 
   void take(const IncludeListLine& line) {
-    const Place place{profile_.includeList, line.line};
-    const std::string value(line.value);
+    std::string value(line.value);
     if (!line.kind) {
       if (!line.isBlank)
-        facts_.dropped.push_back({place, false, false, value});
+        drop({{profile_.includeList, line.line}, false, false, std::move(value)});
     } else if (isNextLoaded(*line.kind, value)) {
       ++next_[*line.kind];
-      facts_.refer(kRoles[*line.kind], place, value);
+      list_.loaded.push_back({*line.kind, line.line, std::move(value)});
     } else {
       const bool isOpen =
           isNextLoaded(*line.kind, value + "\n") || isNextLoaded(*line.kind, value + "\r\n");
       next_[*line.kind] += isOpen ? 1 : 0;
-      facts_.dropped.push_back({place, true, isOpen, value});
+      drop({{profile_.includeList, line.line}, true, isOpen, std::move(value)});
     }
   }
 
@@ -36,29 +50,39 @@ private:
     const std::vector<std::string>& loaded = profile_.files[kind];
     return next_[kind] < loaded.size() && loaded[next_[kind]] == value;
   }
+  void drop(DroppedLine line) { list_.dropped.push_back(std::move(line)); }
 
-  ProjectFacts& facts_;
   const LoadedProfile& profile_;
+  ReadList& list_;
   std::array<std::size_t, 3> next_{};
 };
+
+std::vector<ReadList> readLists(ProjectFacts& facts) {
+  std::vector<const std::string*> paths;
+  for (const LoadedProfile& profile : facts.loaded)
+    paths.push_back(&profile.includeList);
+  std::vector<ReadList> lists(paths.size());
+  facts.index.eachText(paths, [&](std::size_t i, std::optional<std::string_view> text) {
+    lists[i].isRead = text.has_value();
+    ListComparison comparison(facts.loaded[i], lists[i]);
+    forEachLine(text.value_or(std::string_view()),
+                [&](const IncludeListLine& line) { comparison.take(line); });
+  });
+  return lists;
+}
 
 } // namespace
 
 void gatherIncludeLists(ProjectFacts& facts, Progress& progress) {
   progress.tell("reading include lists of profiles", facts.loaded.size());
-  std::vector<std::string> paths;
-  for (const LoadedProfile& profile : facts.loaded)
-    paths.push_back(facts.index.isFile(profile.includeList) ? profile.includeList : std::string());
-  const auto texts = facts.index.texts(paths);
-  for (std::size_t i = 0; i < paths.size(); ++i) {
-    const LoadedProfile& profile = facts.loaded[i];
-    if (texts[i]) {
-      ListComparison comparison(facts, profile);
-      forEachLine(*texts[i], [&](const IncludeListLine& line) { comparison.take(line); });
-    } else if (!profile.includeList.empty() &&
-               facts.index.typeOf(profile.includeList) != EntryType::kMissing) {
-      facts.unread.push_back({profile.includeList, 0});
-    }
+  std::vector<ReadList> lists = readLists(facts);
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    const std::string& path = facts.loaded[i].includeList;
+    for (Entry& entry : lists[i].loaded)
+      facts.refer(kRoles[entry.kind], {path, entry.line}, std::move(entry.value));
+    std::move(lists[i].dropped.begin(), lists[i].dropped.end(), std::back_inserter(facts.dropped));
+    if (!lists[i].isRead && !path.empty() && facts.index.typeOf(path) != EntryType::kMissing)
+      facts.unread.push_back({path, 0});
   }
 }
 

@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "readers/formats/Texts.h"
+#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Gathering.h"
 #include "tools/tervix/check/Paths.h"
 
@@ -58,9 +59,8 @@ void takeDesign(ProjectFacts& facts, const Texts& design) {
 
 } // namespace
 
-void gatherLists(ProjectFacts& facts) {
-  for (const formats::PlacedText& text :
-       formats::readPlacedTexts(facts.layout.projectFile).value_or(Texts())) {
+void gatherLists(ProjectFacts& facts, const std::vector<formats::PlacedText>& project) {
+  for (const formats::PlacedText& text : project) {
     takeReference(facts, text);
     if (facts.isFrontEnd2() && text.section == "Simulation Profiles" && text.item == "Active") {
       facts.activeProfile = text.text;
@@ -71,6 +71,8 @@ void gatherLists(ProjectFacts& facts) {
     facts.schematics.push_back({facts.layout.design, {}});
   else if (!facts.designFile.empty() && facts.index.isFile(facts.designFile))
     takeDesign(facts, formats::readPlacedTexts(facts.designFile).value_or(Texts()));
+  for (const PlacedName& schematic : facts.schematics)
+    facts.schematicNames.insert(lowered(schematic.name));
 }
 
 } // namespace tervix::tool

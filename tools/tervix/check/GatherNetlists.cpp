@@ -16,20 +16,15 @@ class IncludeGraph {
 public:
   explicit IncludeGraph(ProjectFacts& facts) : facts_(facts) {}
 
+  void add(const std::string& netlist) { numberOf(netlist); }
+
   // Reads file after file, those of one distance from the first ones together.
-  void follow(const std::vector<std::string>& netlists, Progress& progress) {
-    for (const std::string& path : netlists)
-      if (facts_.index.isFile(path))
-        numberOf(path);
-    for (std::size_t read = 0; read < files_.size();) {
+  void follow(Progress& progress) {
+    for (std::size_t first = 0; first < files_.size();) {
       progress.tell("reading netlists and libraries", files_.size());
-      const std::size_t first = read;
-      std::vector<std::string> paths;
-      for (; read < files_.size(); ++read)
-        paths.push_back(files_[read].path);
-      const auto texts = facts_.index.texts(paths);
-      for (std::size_t i = 0; i < texts.size(); ++i)
-        takeText(first + i, texts[i]);
+      std::vector<ReadFile> read = readFrom(first);
+      for (ReadFile& file : read)
+        takeIncluded(first++, file);
     }
   }
 
@@ -38,7 +33,8 @@ public:
   // chain of files is too long.
   void tellCycles() {
     for (std::size_t file = 0; file < files_.size(); ++file) {
-      enter(partOf(file, ""));
+      if (!files_[file].inclusions.empty())
+        enter(partOf(file, ""));
       while (!way_.empty()) {
         Part& last = parts_[way_.back()];
         std::vector<Inclusion>& inclusions = files_[last.file].inclusions;
@@ -73,6 +69,7 @@ private:
     State state = State::kNew;
     std::size_t next = 0;
   };
+  using ReadFile = std::optional<std::vector<IncludedFile>>; // none when it cannot be read
 
   std::size_t numberOf(const std::string& path) {
     const auto [number, isNew] = numbers_.emplace(facts_.index.realPathOf(path), files_.size());
@@ -89,16 +86,29 @@ private:
     return number->second;
   }
 
-  void takeText(std::size_t file, const std::optional<std::string>& text) {
-    const std::string path = files_[file].path;
-    if (!text)
-      return facts_.unread.push_back({path, 0});
-    for (const IncludedFile& line : includedFiles(std::string_view(*text))) {
-      Reference& reference = facts_.refer(Role::kIncludeLine, {path, line.line}, line.text);
+  std::vector<ReadFile> readFrom(std::size_t first) {
+    std::vector<const std::string*> paths;
+    for (std::size_t file = first; file < files_.size(); ++file)
+      paths.push_back(&files_[file].path);
+    std::vector<ReadFile> files(paths.size());
+    facts_.index.eachText(paths, [&](std::size_t i, std::optional<std::string_view> text) {
+      if (text)
+        files[i] = includedFiles(*text);
+    });
+    return files;
+  }
+
+  void takeIncluded(std::size_t file, ReadFile& read) {
+    if (!read)
+      return facts_.unread.push_back({files_[file].path, 0});
+    for (IncludedFile& line : *read) {
+      Reference& reference =
+          facts_.refer(Role::kIncludeLine, {files_[file].path, line.line}, std::move(line.text));
       reference.maybeSection = line.maybeSection;
       if (reference.type == EntryType::kFile) {
         const std::size_t included = numberOf(reference.target);
-        files_[file].inclusions.push_back({included, line.line, line.section, line.within, false});
+        files_[file].inclusions.push_back(
+            {included, line.line, std::move(line.section), std::move(line.within), false});
       }
     }
   }
@@ -132,24 +142,26 @@ private:
   std::vector<std::size_t> way_; // of parts
 };
 
-std::vector<std::string> netlistsOf(const ProjectFacts& facts) {
-  std::vector<std::string> netlists;
+void addNetlists(const ProjectFacts& facts, FolderIndex& index, IncludeGraph& graph) {
+  const auto add = [&](const std::string& path) {
+    if (index.isFile(path))
+      graph.add(path);
+  };
   for (const PlacedName& schematic : facts.schematics)
-    netlists.push_back(facts.layout.placesOf(schematic.name).files[SCHEMATIC_FILE_NET]);
+    add(facts.layout.placesOf(schematic.name).files[SCHEMATIC_FILE_NET]);
   for (const LoadedProfile& profile : facts.loaded)
-    netlists.push_back(profile.netlist);
+    add(profile.netlist);
   for (const Reference& reference : facts.references)
-    if (reference.role == Role::kLibrary || reference.role == Role::kStimulus ||
-        reference.role == Role::kInclude)
-      netlists.push_back(reference.target);
-  return netlists;
+    if (isVariant(reference.role) && reference.type == EntryType::kFile)
+      graph.add(reference.target);
 }
 
 } // namespace
 
 void gatherNetlists(ProjectFacts& facts, Progress& progress) {
   IncludeGraph graph(facts);
-  graph.follow(netlistsOf(facts), progress);
+  addNetlists(facts, facts.index, graph);
+  graph.follow(progress);
   graph.tellCycles();
 }
 

@@ -4,7 +4,6 @@
 #include "tools/tervix/changes/NamedPath.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Gathering.h"
-#include "tools/tervix/check/InParallel.h"
 #include "tools/tervix/check/Paths.h"
 
 namespace tervix::tool {
@@ -14,8 +13,7 @@ namespace {
 constexpr std::array<SimKey, 3> kPathKeys = {SimKey::kNetlistFile, SimKey::kDataFile,
                                              SimKey::kOutFile};
 
-void readKeys(const FolderIndex& index, SimFile& sim) {
-  const std::optional<std::string> text = sim.isThere ? index.text(sim.path) : std::nullopt;
+void readKeys(std::optional<std::string_view> text, SimFile& sim) {
   sim.isRead = text.has_value();
   if (!text)
     return;
@@ -48,36 +46,36 @@ bool isOfThisProject(const ProjectFacts& facts, const SimFile& sim) {
   return isSameName(nameOf(sim.path).substr(0, prefix.size()), prefix);
 }
 
-class SimGathering {
-public:
-  explicit SimGathering(ProjectFacts& facts) : facts_(facts) {}
+void addSim(ProjectFacts& facts, std::string path, const Place& registered, bool isThere) {
+  SimFile& sim = facts.sims.emplace_back();
+  sim.path = std::move(path);
+  sim.registered = registered;
+  sim.isThere = isThere;
+}
 
-  void takeRegistered() {
-    for (const Reference& reference : facts_.references)
-      if (reference.role == Role::kProfile)
-        add(reference.target, reference.place, reference.type);
-  }
-
-  void takeFound(const std::string& folder) {
-    for (const FolderIndex::Entry& entry : facts_.index.folder(folder).entries)
+void findSims(ProjectFacts& facts) {
+  std::unordered_set<std::string_view> registered;
+  facts.sims.reserve(facts.references.size());
+  for (const Reference& reference : facts.references)
+    if (reference.role == Role::kProfile) {
+      addSim(facts, reference.target, reference.place, reference.type == EntryType::kFile);
+      facts.sims.back().isRepeated = !registered.insert(reference.target).second;
+    }
+  for (const ListedFolder& folder : facts.simFolders)
+    for (const FolderIndex::Entry& entry : folder.entries())
       if (entry.type == EntryType::kFile && endsWith(entry.name, ".sim"))
-        if (std::string path = folder + "/" + entry.name; seen_.count(path) == 0)
-          add(path, {}, entry.type);
-  }
+        if (std::string path = folder.path + "/" + entry.name; registered.count(path) == 0)
+          addSim(facts, std::move(path), {}, true);
+}
 
-private:
-  void add(const std::string& path, const Place& place, EntryType type) {
-    seen_.insert(path);
-    SimFile sim;
-    sim.path = path;
-    sim.registered = place;
-    sim.isThere = type == EntryType::kFile;
-    facts_.sims.push_back(std::move(sim));
-  }
-
-  ProjectFacts& facts_;
-  std::unordered_set<std::string> seen_;
-};
+void readSims(ProjectFacts& facts) {
+  std::vector<const std::string*> paths;
+  for (const SimFile& sim : facts.sims)
+    paths.push_back(&sim.path);
+  facts.index.eachText(paths, [&](std::size_t i, std::optional<std::string_view> text) {
+    readKeys(text, facts.sims[i]);
+  });
+}
 
 // In a folder that projects share, those of the others are none of ours.
 void removeForeign(ProjectFacts& facts) {
@@ -91,12 +89,9 @@ void removeForeign(ProjectFacts& facts) {
 } // namespace
 
 void gatherSims(ProjectFacts& facts, Progress& progress) {
-  SimGathering gathering(facts);
-  gathering.takeRegistered();
-  for (const std::string& folder : facts.simFolders)
-    gathering.takeFound(folder);
+  findSims(facts);
   progress.tell("reading profiles", facts.sims.size());
-  inParallel(facts.sims.size(), [&](std::size_t i) { readKeys(facts.index, facts.sims[i]); });
+  readSims(facts);
   if (facts.isFrontEnd2() && !facts.layout.isSimulation())
     removeForeign(facts);
   for (const SimFile& sim : facts.sims)

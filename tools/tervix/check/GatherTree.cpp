@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <iterator>
+
 #include "tools/tervix/check/Gathering.h"
 #include "tools/tervix/check/Paths.h"
 
@@ -45,25 +48,38 @@ void takeSchematic(ProjectFacts& facts, CTervixSchematic& schematic) {
 }
 
 // Folders in a folder, links left out: what they lead to is not the project's own.
-std::vector<std::string> foldersIn(FolderIndex& index, const std::string& path) {
+std::vector<std::string> foldersIn(const ListedFolder& folder) {
   std::vector<std::string> folders;
-  for (const FolderIndex::Entry& entry : index.folder(path).entries)
+  for (const FolderIndex::Entry& entry : folder.entries())
     if (entry.type == EntryType::kFolder && !entry.isLink)
-      folders.push_back((path + "/").append(entry.name));
+      folders.push_back((folder.path + "/").append(entry.name));
+  return folders;
+}
+
+ListedFolder listed(ProjectFacts& facts, std::string path) {
+  const FolderIndex::Folder& folder = facts.index.folder(path);
+  return {std::move(path), &folder};
+}
+
+std::vector<ListedFolder> listed(ProjectFacts& facts, std::vector<std::string> paths) {
+  std::vector<ListedFolder> folders;
+  facts.index.listAhead(paths);
+  folders.reserve(paths.size());
+  for (std::string& path : paths)
+    folders.push_back(listed(facts, std::move(path)));
   return folders;
 }
 
 // Level by level, so that the folders of one level can be listed together.
-std::vector<std::string> treeBelow(ProjectFacts& facts, const std::string& top) {
-  std::vector<std::string> tree;
-  for (std::vector<std::string> level = {top}; !level.empty();) {
-    facts.index.listAhead(level);
+std::vector<ListedFolder> treeBelow(ProjectFacts& facts, const std::string& top) {
+  std::vector<ListedFolder> tree = {listed(facts, top)};
+  for (std::size_t done = 0; done < tree.size();) {
     std::vector<std::string> below;
-    for (const std::string& folder : level)
-      for (std::string& found : foldersIn(facts.index, folder))
+    for (; done < tree.size(); ++done)
+      for (std::string& found : foldersIn(tree[done]))
         below.push_back(std::move(found));
-    tree.insert(tree.end(), level.begin(), level.end());
-    level = std::move(below);
+    std::vector<ListedFolder> level = listed(facts, std::move(below));
+    std::move(level.begin(), level.end(), std::back_inserter(tree));
   }
   return tree;
 }
@@ -80,23 +96,26 @@ void gatherTree(ProjectFacts& facts, CTervixProject& project) {
 void gatherFolders(ProjectFacts& facts, Progress& progress) {
   progress.tell("listing the folders of profiles", facts.loaded.size());
   const ProjectLayout& layout = facts.layout;
-  facts.ownFolders.push_back(layout.folder);
+  facts.ownFolders.push_back(listed(facts, layout.folder));
   if (layout.designFolder != layout.folder && liesBelow(layout.designFolder, facts.root))
-    facts.ownFolders.push_back(layout.designFolder);
+    facts.ownFolders.push_back(listed(facts, layout.designFolder));
   if (!layout.isSimulation()) {
-    facts.simFolders.push_back(layout.folder);
+    facts.simFolders.push_back(facts.ownFolders.front());
     return;
   }
   const std::string top =
       layout.hasDesignFile() ? layout.filesFolder() : (layout.folder + "/").append(kProfilesFolder);
   if (facts.index.typeOf(top) != EntryType::kFolder)
     return;
-  const std::vector<std::string> tree = treeBelow(facts, top);
+  std::vector<ListedFolder> tree = treeBelow(facts, top);
   facts.ownFolders.insert(facts.ownFolders.end(), tree.begin(), tree.end());
-  const std::vector<std::string> found = {top};
-  facts.schematicFolders = layout.hasDesignFile() ? foldersIn(facts.index, top) : found;
-  // Front end 1 has as profiles what lies there; a profile of front end 2 may have gone astray.
-  facts.simFolders = layout.hasDesignFile() ? tree : found;
+  if (layout.hasDesignFile()) {
+    facts.schematicFolders = listed(facts, foldersIn(tree.front()));
+    facts.simFolders = std::move(tree); // a profile may have gone astray
+  } else {
+    facts.schematicFolders = {tree.front()};
+    facts.simFolders = {tree.front()}; // what lies there is a profile
+  }
 }
 
 } // namespace tervix::tool

@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "readers/formats/Texts.h"
 #include "tools/tervix/Printable.h"
@@ -16,15 +19,9 @@ constexpr const char* kBackupEnding = ".bak";
 // How every file begins that the tool or the library makes for the time of a change.
 constexpr const char* kWorkPrefix = ".tervix-";
 
-bool holdsText(const FolderIndex& index, const std::string& path) {
+bool holdsText(FolderIndex& index, const std::string& path) {
   const auto text = index.text(path);
   return text && !text->empty();
-}
-
-const SimFile* simAt(const ProjectFacts& facts, const std::string& path) {
-  const auto sim = std::find_if(facts.sims.begin(), facts.sims.end(),
-                                [&](const SimFile& file) { return file.path == path; });
-  return sim != facts.sims.end() ? &*sim : nullptr;
 }
 
 // Whether a file has all that its kind needs.
@@ -38,33 +35,51 @@ bool isWhole(ProjectFacts& facts, const std::string& path, const SimFile* sim) {
   return true;
 }
 
-void checkBackup(ProjectFacts& facts, Findings& findings, const std::string& path) {
-  const std::string original = path.substr(0, path.size() - std::string(kBackupEnding).size());
-  const bool isOfSim = endsWith(original, ".sim");
-  const SimFile* sim = isOfSim ? simAt(facts, original) : nullptr;
-  if (isOfSim && sim == nullptr && facts.index.isFile(original))
-    return; // of another project in the same folder, whose check tells
-  if (!isWhole(facts, original, sim))
-    return findings.add(Code::kLostOriginal, {path},
-                        findings.named(original) + " is not there, or not whole");
-  Repair repair;
-  if (facts.index.isDirectlyIn(path, facts.layout.folder)) {
-    repair.action = Repair::Action::kRemoveFile;
-    repair.file = path;
-  }
-  findings.add(Code::kStaleBackup, {path}, findings.named(original) + " is whole",
-               std::move(repair));
-}
+class LeftFiles {
+public:
+  LeftFiles(ProjectFacts& facts, Findings& findings) : facts_(facts), findings_(findings) {}
 
-void checkFiles(ProjectFacts& facts, Findings& findings, const std::string& folder) {
-  for (const FolderIndex::Entry& entry : facts.index.folder(folder).entries) {
-    if (entry.name.rfind(kWorkPrefix, 0) == 0)
-      findings.add(Code::kInterruptedChange, {folder + "/" + entry.name},
-                   "an interrupted change left this behind");
-    else if (entry.type == EntryType::kFile && endsWith(entry.name, kBackupEnding))
-      checkBackup(facts, findings, folder + "/" + entry.name);
+  void check(const ListedFolder& folder) {
+    for (const FolderIndex::Entry& entry : folder.entries()) {
+      if (entry.name.rfind(kWorkPrefix, 0) == 0)
+        findings_.add(Code::kInterruptedChange, {folder.path + "/" + entry.name},
+                      "an interrupted change left this behind");
+      else if (entry.type == EntryType::kFile && endsWith(entry.name, kBackupEnding))
+        checkBackup(folder.path + "/" + entry.name);
+    }
   }
-}
+
+private:
+  void checkBackup(const std::string& path) {
+    const std::string original = path.substr(0, path.size() - std::string(kBackupEnding).size());
+    const bool isOfSim = endsWith(original, ".sim");
+    const SimFile* sim = isOfSim ? simAt(original) : nullptr;
+    if (isOfSim && sim == nullptr && facts_.index.isFile(original))
+      return; // of another project in the same folder, whose check tells
+    if (!isWhole(facts_, original, sim))
+      return findings_.add(Code::kLostOriginal, {path},
+                           findings_.named(original) + " is not there, or not whole");
+    Repair repair;
+    if (facts_.index.isDirectlyIn(path, facts_.layout.folder)) {
+      repair.action = Repair::Action::kRemoveFile;
+      repair.file = path;
+    }
+    findings_.add(Code::kStaleBackup, {path}, findings_.named(original) + " is whole",
+                  std::move(repair));
+  }
+
+  const SimFile* simAt(const std::string& path) {
+    if (sims_.empty())
+      for (const SimFile& sim : facts_.sims)
+        sims_.emplace(sim.path, &sim);
+    const auto found = sims_.find(path);
+    return found != sims_.end() ? found->second : nullptr;
+  }
+
+  ProjectFacts& facts_;
+  Findings& findings_;
+  std::unordered_map<std::string_view, const SimFile*> sims_; // once one was asked for
+};
 
 bool hasEntry(FolderIndex& index, const std::string& folder, const std::string& name) {
   return index.typeOf(folder + "/" + name) != EntryType::kMissing ||
@@ -86,11 +101,10 @@ bool looksLikeProfileFolder(FolderIndex& index, const std::string& folder) {
   return entries.empty() || std::any_of(entries.begin(), entries.end(), isNamedAfterProfile);
 }
 
-template <class Tell>
-void forEachFolder(FolderIndex& index, const std::string& above, const Tell& tell) {
-  for (const FolderIndex::Entry& entry : index.folder(above).entries)
+template <class Tell> void forEachFolder(const ListedFolder& above, const Tell& tell) {
+  for (const FolderIndex::Entry& entry : above.entries())
     if (entry.type == EntryType::kFolder && !entry.isLink)
-      tell(above + "/" + entry.name, entry.name);
+      tell(above.path + "/" + entry.name, entry.name);
 }
 
 // The folder of a profile is looked for in the case of the ".sim" file.
@@ -104,46 +118,55 @@ void checkFolderCase(FolderIndex& index, Findings& findings, const std::string& 
                  "the folder of " + inQuotes(*sim) + " is looked for as " + inQuotes(name));
 }
 
-void checkProfileFolders(ProjectFacts& facts, Findings& findings, const std::string& above) {
-  std::vector<std::string> registered;
+std::string placeInAnyCase(const std::string& folder, const std::string& name) {
+  return folder + "/" + lowered(name);
+}
+
+// Of the files that are registered and not there.
+std::unordered_set<std::string> missingSims(const ProjectFacts& facts) {
+  std::unordered_set<std::string> missing;
   for (const SimFile& sim : facts.sims)
-    if (folderOf(sim.path) == above)
-      registered.push_back(lowered(nameOf(sim.path)));
-  std::sort(registered.begin(), registered.end());
-  forEachFolder(facts.index, above, [&](const std::string& path, const std::string& name) {
+    if (!sim.isThere)
+      missing.insert(placeInAnyCase(folderOf(sim.path), nameOf(sim.path)));
+  return missing;
+}
+
+void checkProfileFolders(ProjectFacts& facts, Findings& findings, const ListedFolder& above,
+                         const std::unordered_set<std::string>& missing) {
+  forEachFolder(above, [&](const std::string& path, const std::string& name) {
     checkFolderCase(facts.index, findings, path);
-    if (!hasEntry(facts.index, above, name + ".sim") &&
-        !std::binary_search(registered.begin(), registered.end(), lowered(name + ".sim")) &&
+    if (!hasEntry(facts.index, above.path, name + ".sim") &&
+        missing.count(placeInAnyCase(above.path, name + ".sim")) == 0 &&
         looksLikeProfileFolder(facts.index, path))
       findings.add(Code::kOrphanFolder, {path},
                    "a profile's folder without " + inQuotes(name + ".sim") + " beside it");
   });
 }
 
-bool hasSims(FolderIndex& index, const std::string& folder) {
-  const auto& entries = index.folder(folder).entries;
-  return std::any_of(entries.begin(), entries.end(),
+bool hasSims(const ListedFolder& folder) {
+  return std::any_of(folder.entries().begin(), folder.entries().end(),
                      [](const auto& entry) { return endsWith(entry.name, ".sim"); });
 }
 
 void checkFolders(ProjectFacts& facts, Findings& findings) {
-  for (const std::string& above : facts.schematicFolders) {
-    const std::string schematic = nameOf(above);
+  const std::unordered_set<std::string> missing = missingSims(facts);
+  for (const ListedFolder& above : facts.schematicFolders) {
+    const std::string schematic = nameOf(above.path);
     // Profiles in a folder of no schematic are told one by one.
-    if (facts.isFrontEnd2() && !facts.hasSchematic(schematic) && !hasSims(facts.index, above))
-      findings.add(Code::kOrphanFolder, {above},
+    if (facts.isFrontEnd2() && !facts.hasSchematic(schematic) && !hasSims(above))
+      findings.add(Code::kOrphanFolder, {above.path},
                    "there is no schematic " + inQuotes(schematic) + " in the design");
     else
-      checkProfileFolders(facts, findings, above);
+      checkProfileFolders(facts, findings, above, missing);
   }
   if (!facts.isFrontEnd2())
     return;
-  const std::string& folder = facts.layout.folder;
-  forEachFolder(facts.index, folder, [&](const std::string& path, const std::string& name) {
+  const ListedFolder& folder = facts.ownFolders.front(); // the project's
+  forEachFolder(folder, [&](const std::string& path, const std::string& name) {
     if (!endsWith(name, kFilesFolderEnding))
       return;
     const std::string project = name.substr(0, name.size() - kFilesFolderEnding.size()) + ".tvp";
-    if (!hasEntry(facts.index, folder, project))
+    if (!hasEntry(facts.index, folder.path, project))
       findings.add(Code::kOrphanFolder, {path},
                    "the files of a project without " + inQuotes(project) + " beside them");
   });
@@ -157,8 +180,9 @@ void checkLeftovers(ProjectFacts& facts, Findings& findings) {
     findings.add(Code::kInterruptedChange, {journal},
                  "an interrupted change left its journal; the next command that changes the "
                  "project takes it back or finishes it");
-  for (const std::string& folder : facts.ownFolders)
-    checkFiles(facts, findings, folder);
+  LeftFiles files(facts, findings);
+  for (const ListedFolder& folder : facts.ownFolders)
+    files.check(folder);
   if (facts.knowsDesign())
     checkFolders(facts, findings);
 }

@@ -32,12 +32,12 @@ void checkEntry(Findings& findings, const std::string& folder, const std::string
     findings.add(Code::kLongPath, {path}, "the path has " + std::to_string(count) + " characters");
 }
 
-void checkFolder(ProjectFacts& facts, Findings& findings, const std::string& folder) {
+void checkFolder(Findings& findings, const ListedFolder& folder) {
   const FolderIndex::Entry* before = nullptr;
-  for (const FolderIndex::Entry& entry : facts.index.folder(folder).entries) {
-    checkEntry(findings, folder, entry.name);
-    if (before != nullptr && before->key == entry.key)
-      findings.add(Code::kCaseTwins, {folder + "/" + entry.name},
+  for (const FolderIndex::Entry& entry : folder.entries()) {
+    checkEntry(findings, folder.path, entry.name);
+    if (before != nullptr && isSameName(before->name, entry.name))
+      findings.add(Code::kCaseTwins, {folder.path + "/" + entry.name},
                    inQuotes(entry.name) + " and " + inQuotes(before->name) +
                        " differ only in case");
     before = &entry;
@@ -86,8 +86,8 @@ void checkDottedNames(const ProjectFacts& facts, Findings& findings) {
 } // namespace
 
 void checkNames(ProjectFacts& facts, Findings& findings) {
-  for (const std::string& folder : facts.ownFolders)
-    checkFolder(facts, findings, folder);
+  for (const ListedFolder& folder : facts.ownFolders)
+    checkFolder(findings, folder);
   checkSchematics(facts, findings);
   checkDottedNames(facts, findings);
 }

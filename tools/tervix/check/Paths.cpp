@@ -60,7 +60,7 @@ std::string placeAt(const std::string& base, const std::string& text) {
   return place;
 }
 
-bool liesBelow(const std::string& place, const std::string& folder) {
+bool liesBelow(std::string_view place, std::string_view folder) {
   return place.size() > folder.size() && place[folder.size()] == '/' &&
          place.compare(0, folder.size(), folder) == 0;
 }

@@ -19,7 +19,7 @@ bool endsWith(const std::string& text, std::string_view ending); // in any case
 
 // The full path that text means, seen from the folder base.
 std::string placeAt(const std::string& base, const std::string& text);
-bool liesBelow(const std::string& place, const std::string& folder);
+bool liesBelow(std::string_view place, std::string_view folder);
 // path as seen from folder; path itself when it lies elsewhere.
 std::string seenIn(const std::string& folder, const std::string& path);
 

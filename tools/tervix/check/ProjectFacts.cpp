@@ -19,23 +19,25 @@ std::string schematicOfPlace(const ProjectFacts& facts, const std::string& sim) 
 } // namespace
 
 std::string keyOfNames(const std::string& schematic, const std::string& name) {
-  return lowered(schematic) + '\n' + lowered(name);
+  std::string key;
+  key.reserve(schematic.size() + 1 + name.size());
+  key.append(schematic).append("\n").append(name);
+  return lowered(key);
 }
 
-Reference& ProjectFacts::refer(Role role, const Place& place, const std::string& text) {
+Reference& ProjectFacts::refer(Role role, Place place, std::string text) {
   std::string target = placeAt(folderOf(place.file), text);
   const EntryType type = index.typeOf(target);
-  return references.emplace_back(Reference{role, place, text, std::move(target), type});
+  return references.emplace_back(
+      Reference{role, std::move(place), std::move(text), std::move(target), type});
 }
 
 bool ProjectFacts::hasSchematic(const std::string& name) const {
-  return std::any_of(schematics.begin(), schematics.end(),
-                     [&](const PlacedName& listed) { return isSameName(listed.name, name); });
+  return schematicNames.count(lowered(name)) != 0;
 }
 
-const LoadedProfile* ProjectFacts::loadedAs(const std::string& schematic,
-                                            const std::string& name) const {
-  const auto found = loadedByNames.find(keyOfNames(schematic, name));
+const LoadedProfile* ProjectFacts::loadedAs(const std::string& keyOfNames) const {
+  const auto found = loadedByNames.find(keyOfNames);
   return found == loadedByNames.end() ? nullptr : &loaded[found->second];
 }
 
@@ -77,9 +79,10 @@ ProjectFacts gatherFacts(CTervixProject& project, ReadAhead& ahead, Progress& pr
   const ProjectLayout layout = layoutOf(project);
   ProjectFacts facts(layout.hasDesignFile() ? layout.folder : folderOf(layout.folder));
   facts.layout = layout;
-  gatherLists(facts);
   gatherTree(facts, project);
-  facts.index.take(ahead.take());
+  const auto texts = formats::readPlacedTexts(layout.projectFile);
+  facts.index.take(ahead.take()); // before the first question about a folder
+  gatherLists(facts, texts.value_or(std::vector<formats::PlacedText>()));
   gatherFolders(facts, progress);
   gatherSims(facts, progress);
   gatherIncludeLists(facts, progress);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "CTervixProject.h"
@@ -42,6 +43,11 @@ enum class Role {
   kIncludeLine
 };
 
+// Files that a project or profile lists for the simulator.
+inline bool isVariant(Role role) {
+  return role == Role::kLibrary || role == Role::kStimulus || role == Role::kInclude;
+}
+
 struct Reference {
   Role role;
   Place place;      // of the name; what is relative counts from the folder of that file
@@ -71,10 +77,19 @@ struct SimKeyFacts {
   std::size_t count = 0;
 };
 
+// A folder of the project, with what stands in it.
+struct ListedFolder {
+  std::string path;
+  const FolderIndex::Folder* listed;
+
+  const std::vector<FolderIndex::Entry>& entries() const { return listed->entries; }
+};
+
 // A ".sim" file of the project.
 struct SimFile {
   std::string path;
-  Place registered; // in the project file; without a file when it is not registered
+  Place registered;        // in the project file; without a file when it is not registered
+  bool isRepeated = false; // registered once more
   bool isThere = false;
   bool isRead = false;
   std::array<SimKeyFacts, 8> keys;
@@ -107,7 +122,8 @@ struct ProjectFacts {
   Place rootPlace;
   std::string activeProfile;
   Place activePlace;
-  std::vector<PlacedName> schematics; // as the design lists them
+  std::vector<PlacedName> schematics;             // as the design lists them
+  std::unordered_set<std::string> schematicNames; // the same in lower case
   std::vector<LoadedProfile> loaded;
   std::unordered_map<std::string, std::size_t> loadedByNames; // see keyOfNames
   std::vector<SimFile> sims; // registered ones first, in their order
@@ -115,17 +131,17 @@ struct ProjectFacts {
   std::vector<DroppedLine> dropped;
   std::vector<Place> unread; // files that are there, are to be read and cannot be
   std::vector<IncludeCycle> cycles;
-  std::vector<std::string> ownFolders;       // the project's, and those below that are its alone
-  std::vector<std::string> schematicFolders; // in which profiles have folders
-  std::vector<std::string> simFolders;       // in which ".sim" files are the project's
+  std::vector<ListedFolder> ownFolders;       // the project's, and those below that are its alone
+  std::vector<ListedFolder> schematicFolders; // in which profiles have folders
+  std::vector<ListedFolder> simFolders;       // in which ".sim" files are the project's
 
   bool isFrontEnd2() const { return layout.hasDesignFile(); }
   // Without its design file nothing can be said of what belongs to the design.
   bool knowsDesign() const { return !isFrontEnd2() || !layout.design.empty(); }
   // Takes a name down, with what stands where it leads.
-  Reference& refer(Role role, const Place& place, const std::string& text);
+  Reference& refer(Role role, Place place, std::string text);
   bool hasSchematic(const std::string& name) const;
-  const LoadedProfile* loadedAs(const std::string& schematic, const std::string& name) const;
+  const LoadedProfile* loadedAs(const std::string& keyOfNames) const;
 };
 
 std::string keyOfNames(const std::string& schematic, const std::string& name);

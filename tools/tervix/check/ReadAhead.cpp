@@ -11,14 +11,15 @@
 namespace tervix::tool {
 namespace {
 
-// As many folders are fetched at once, before the project is opened; a thread for the rest pays.
-constexpr std::size_t kFirst = 64;
+// So much is done before the project is opened; a thread for the rest pays.
+constexpr std::size_t kFirstSteps = 256;
 // What is kept of texts, however many there are.
 constexpr std::size_t kMostText = std::size_t{256} << 20U;
 constexpr std::size_t kLongestText = 16384;
 
+constexpr std::string_view kProfileEnding = ".sim";
 // Profiles, their include lists, and what these name.
-constexpr std::array<std::string_view, 4> kReadEndings = {".sim", ".inc", ".lib", ".stl"};
+constexpr std::array<std::string_view, 4> kReadEndings = {kProfileEnding, ".inc", ".lib", ".stl"};
 
 bool isRead(const std::string& name) {
   return std::any_of(kReadEndings.begin(), kReadEndings.end(),
@@ -27,13 +28,14 @@ bool isRead(const std::string& name) {
 
 } // namespace
 
-ReadAhead::ReadAhead(const std::string& projectFile) {
+ReadAhead::ReadAhead(const std::string& projectFile) : projectFolder_(folderOf(projectFile)) {
   if (!endsWith(projectFile, ".tvp"))
     return;
-  toList_ = {(folderOf(projectFile) + "/").append(kProfilesFolder),
-             projectFile.substr(0, projectFile.size() - 4).append(kFilesFolderEnding)};
-  fetch(kFirst);
-  if (toList_.empty())
+  toList_ = {(projectFolder_ + "/").append(kProfilesFolder),
+             projectFile.substr(0, projectFile.size() - 4).append(kFilesFolderEnding),
+             projectFolder_};
+  fetch(kFirstSteps);
+  if (toList_.empty() && last_ == nullptr)
     return;
   try {
     rest_ =
@@ -47,7 +49,7 @@ ReadAhead::~ReadAhead() {
   stop();
 }
 
-FetchedFolders ReadAhead::take() {
+FolderIndex::Folders ReadAhead::take() {
   stop();
   return std::move(fetched_);
 }
@@ -58,33 +60,48 @@ void ReadAhead::stop() {
     rest_.wait();
 }
 
-void ReadAhead::fetch(std::size_t most) {
-  for (; most != 0 && !toList_.empty() && !isStopped_; --most) {
-    const std::string path = std::move(toList_.back());
-    toList_.pop_back();
-    fetchFolder(path);
+void ReadAhead::fetch(std::size_t mostSteps) {
+  while (mostSteps-- != 0 && !isStopped_ && step()) {
   }
 }
 
+// Lists a folder or looks at an entry of the last one; false when all is done.
+bool ReadAhead::step() {
+  if (last_ != nullptr && looked_ < last_->second.entries.size()) {
+    look(last_->second.entries[looked_++]);
+    return true;
+  }
+  last_ = nullptr;
+  if (toList_.empty())
+    return false;
+  std::string path = std::move(toList_.back());
+  toList_.pop_back();
+  list(std::move(path));
+  return true;
+}
+
 // What cannot be had is left to the check, which tells of it.
-void ReadAhead::fetchFolder(const std::string& path) {
+void ReadAhead::list(std::string path) {
   FolderIndex::Folder folder = listedFolder(path);
   if (!folder.isListed)
     return;
-  for (const FolderIndex::Entry& entry : folder.entries) {
-    if (entry.isLink)
-      continue;
-    std::string place = (path + "/").append(entry.name);
-    if (entry.type == EntryType::kFolder) {
-      toList_.push_back(std::move(place));
-    } else if (entry.type == EntryType::kFile && isRead(entry.name) && textSize_ < kMostText) {
-      auto text = readText(place, kLongestText);
-      textSize_ += text ? text->size() : 0;
-      if (text)
-        fetched_.texts.emplace(std::move(place), std::move(*text));
-    }
+  last_ = &*fetched_.emplace(std::move(path), std::move(folder)).first;
+  looked_ = 0;
+}
+
+void ReadAhead::look(FolderIndex::Entry& entry) {
+  const std::string& folder = last_->first;
+  if (entry.isLink)
+    return;
+  // Of the project's folder the profiles are; other folders there may be anybody's.
+  const bool isShared = folder == projectFolder_;
+  if (entry.type == EntryType::kFolder && !isShared) {
+    toList_.push_back((folder + "/").append(entry.name));
+  } else if (entry.type == EntryType::kFile && textSize_ < kMostText &&
+             (isShared ? endsWith(entry.name, kProfileEnding) : isRead(entry.name))) {
+    entry.text = readText((folder + "/").append(entry.name), kLongestText);
+    textSize_ += entry.text ? entry.text->size() : 0;
   }
-  fetched_.folders.emplace(path, std::move(folder));
 }
 
 } // namespace tervix::tool

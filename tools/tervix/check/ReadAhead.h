@@ -20,15 +20,20 @@ public:
   ReadAhead& operator=(const ReadAhead&) = delete;
 
   // What there is by now; the rest is faster fetched by several threads.
-  FetchedFolders take();
+  FolderIndex::Folders take();
 
 private:
   void stop();
-  void fetch(std::size_t most);
-  void fetchFolder(const std::string& path);
+  void fetch(std::size_t mostSteps);
+  bool step();
+  void list(std::string path);
+  void look(FolderIndex::Entry& entry);
 
-  FetchedFolders fetched_;
+  std::string projectFolder_;
+  FolderIndex::Folders fetched_;
   std::vector<std::string> toList_;
+  FolderIndex::Folders::value_type* last_ = nullptr; // of those that were fetched
+  std::size_t looked_ = 0;                           // entries of the last
   std::size_t textSize_ = 0;
   std::atomic<bool> isStopped_{false};
   std::future<void> rest_;

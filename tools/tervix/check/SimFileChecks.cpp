@@ -20,8 +20,7 @@ public:
   SimChecks(ProjectFacts& facts, Findings& findings) : facts_(facts), findings_(findings) {}
 
   void check(const SimFile& sim) {
-    const bool isFirst = paths_.insert(sim.path).second;
-    if (!isFirst)
+    if (sim.isRepeated)
       findings_.add(Code::kListedTwice, sim.registered,
                     findings_.named(sim.path) + " is registered already");
     else if (!sim.isThere)
@@ -39,18 +38,31 @@ private:
     std::string text;
   };
 
-  Obstacle obstacleTo(const SimFile& sim) {
+  struct Named {
+    ProfileNames names;
+    std::string key;
+    const LoadedProfile* loaded; // null when the library has none of these names
+  };
+
+  Named named(const SimFile& sim) const {
+    Named named{namesOf(facts_, sim), {}, nullptr};
+    named.key = keyOfNames(named.names.schematic, named.names.name);
+    named.loaded = facts_.loadedAs(named.key);
+    return named;
+  }
+
+  Obstacle obstacleTo(const SimFile& sim, const Named& named) {
     if (const std::string reason = reasonAgainstProfile(facts_, sim); !reason.empty())
       return {Code::kInvalidProfile, reason};
-    const ProfileNames names = namesOf(facts_, sim);
+    const ProfileNames& names = named.names;
     if (names.schematic.empty())
       return {Code::kUnknownSchematic, "neither RootSchematics nor its place tells a schematic"};
     if (!facts_.hasSchematic(names.schematic))
       return {Code::kUnknownSchematic,
               "there is no schematic " + inQuotes(names.schematic) + " in the design"};
-    if (!profiles_.insert(keyOfNames(names.schematic, names.name)).second)
+    if (!profiles_.insert(named.key).second)
       return {Code::kSameProfile, "another file is " + described(names) + " already"};
-    const std::string composed = composedPlace(names);
+    const std::string composed = composedPlace(named);
     if (!isSamePlace(composed, sim.path))
       return {Code::kMisplacedProfile, "it is " + described(names) + ", which is looked for at " +
                                            findings_.named(composed)};
@@ -61,14 +73,14 @@ private:
     return "profile " + inQuotes(names.name) + " of schematic " + inQuotes(names.schematic);
   }
 
-  std::string composedPlace(const ProfileNames& names) const {
-    if (const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name))
-      return loaded->sim;
+  std::string composedPlace(const Named& named) const {
+    if (named.loaded != nullptr)
+      return named.loaded->sim;
     // Under the schematic as the design spells it.
     const auto listed = std::find_if(
         facts_.schematics.begin(), facts_.schematics.end(),
-        [&](const PlacedName& name) { return isSameName(name.name, names.schematic); });
-    return facts_.layout.placesOf(listed->name, names.name).sim;
+        [&](const PlacedName& name) { return isSameName(name.name, named.names.schematic); });
+    return facts_.layout.placesOf(listed->name, named.names.name).sim;
   }
 
   // Where case is ignored the names may differ in it.
@@ -79,28 +91,29 @@ private:
   }
 
   void checkPlaced(const SimFile& sim) {
+    const Named names = named(sim);
     if (facts_.isFrontEnd2() && !sim.isRegistered())
-      checkUnregistered(sim);
-    else if (const Obstacle obstacle = obstacleTo(sim); !obstacle.text.empty())
+      checkUnregistered(sim, names);
+    else if (const Obstacle obstacle = obstacleTo(sim, names); !obstacle.text.empty())
       findings_.add(obstacle.code, {sim.path}, obstacle.text);
     else
-      checkKeys(sim);
+      checkKeys(sim, names);
   }
 
-  void checkUnregistered(const SimFile& sim) {
-    const Obstacle obstacle = obstacleTo(sim);
+  void checkUnregistered(const SimFile& sim, const Named& names) {
+    const Obstacle obstacle = obstacleTo(sim, names);
     const std::string message = "the file is not registered in the project file";
     if (!obstacle.text.empty())
       return findings_.add(Code::kUnregisteredProfile, {sim.path}, message + "; " + obstacle.text);
-    findings_.add(Code::kUnregisteredProfile, {sim.path}, message, registrationOf(sim));
-    checkKeys(sim);
+    findings_.add(Code::kUnregisteredProfile, {sim.path}, message,
+                  registrationOf(sim, names.names));
+    checkKeys(sim, names);
   }
 
-  Repair registrationOf(const SimFile& sim) {
+  Repair registrationOf(const SimFile& sim, const ProfileNames& names) {
     // A link is left alone: what it leads to may be somebody else's.
     if (!facts_.index.isDirectlyIn(facts_.layout.projectFile, facts_.layout.folder))
       return {};
-    const ProfileNames names = namesOf(facts_, sim);
     Repair repair;
     repair.action = Repair::Action::kRegisterProfile;
     repair.file = facts_.layout.projectFile;
@@ -110,8 +123,7 @@ private:
     return repair;
   }
 
-  void checkKeys(const SimFile& sim) {
-    const ProfileNames names = namesOf(facts_, sim);
+  void checkKeys(const SimFile& sim, const Named& names) {
     checkName(sim, SimKey::kProfileFile, nameOf(sim.path));
     checkName(sim, SimKey::kProjectFile, nameOf(facts_.layout.projectFile));
     checkName(sim, SimKey::kNetlistFile, nameOf(netlistOf(names)));
@@ -121,10 +133,11 @@ private:
                       std::string(wordOf(static_cast<SimKey>(i))) + " stands here once more");
   }
 
-  std::string netlistOf(const ProfileNames& names) const {
-    const LoadedProfile* loaded = facts_.loadedAs(names.schematic, names.name);
-    return loaded != nullptr ? loaded->netlist
-                             : facts_.layout.filesOf(names.schematic, names.name)[PROFILE_FILE_CIR];
+  std::string netlistOf(const Named& named) const {
+    const ProfileNames& names = named.names;
+    return named.loaded != nullptr
+               ? named.loaded->netlist
+               : facts_.layout.filesOf(names.schematic, names.name)[PROFILE_FILE_CIR];
   }
 
   // What has no value leaves it to the place.
@@ -138,7 +151,6 @@ private:
 
   ProjectFacts& facts_;
   Findings& findings_;
-  std::unordered_set<std::string> paths_;
   std::unordered_set<std::string> profiles_; // by their names
 };
 
@@ -151,9 +163,7 @@ void checkLists(const ProjectFacts& facts, Findings& findings) {
     if (file == nullptr || *file != reference.place.file)
       seen.clear();
     file = &reference.place.file;
-    const bool isList = reference.role == Role::kLibrary || reference.role == Role::kStimulus ||
-                        reference.role == Role::kInclude;
-    if (isList && !seen.emplace(reference.role, reference.target).second)
+    if (isVariant(reference.role) && !seen.emplace(reference.role, reference.target).second)
       findings.add(Code::kListedTwice, reference.place,
                    inQuotes(reference.text) + " is listed already");
   }

@@ -30,12 +30,16 @@ std::vector<std::string> RawOutputs::of(const ProfileView& profile) {
     if (file.exists)
       addIfRaw(outputs, file.place);
   const bool isOwnFolder = project_.type == PROJECT_TYPE_SIMULATION;
-  const std::string begin = isOwnFolder ? "" : lowered(stemOf(nameOf(profile.sim.place))) + ".";
-  const auto& entries = folders_.folder(profile.folder).entries; // in the order of their keys
-  auto entry =
-      std::lower_bound(entries.begin(), entries.end(), begin,
-                       [](const FolderIndex::Entry& a, const std::string& b) { return a.key < b; });
-  for (; entry != entries.end() && entry->key.compare(0, begin.size(), begin) == 0; ++entry)
+  const std::string begin = isOwnFolder ? "" : stemOf(nameOf(profile.sim.place)) + ".";
+  const auto begins = [&](const std::string& name) {
+    return isSameName(std::string_view(name).substr(0, begin.size()), begin);
+  };
+  const auto& entries = folders_.folder(profile.folder).entries;
+  auto entry = std::lower_bound(entries.begin(), entries.end(), begin,
+                                [](const FolderIndex::Entry& a, const std::string& b) {
+                                  return compareNames(a.name, b) < 0;
+                                });
+  for (; entry != entries.end() && begins(entry->name); ++entry)
     if (entry->type == EntryType::kFile)
       addIfRaw(outputs, profile.folder + "/" + entry->name);
   return outputs;

@@ -93,7 +93,7 @@ void requireNoneOf(const CheckedProject& checked, const ProjectView* project,
     throw Failure(inQuotes(path) + " is there and is no report; whether it is a file of the "
                                    "project cannot be told");
   const Target target(path);
-  if (project != nullptr && (isOf(*project, target) || target.isAnyOf(checked.named)))
+  if (project != nullptr && (isOf(*project, target) || target.isAnyOf(namedIn(checked))))
     throw Failure(inQuotes(path) + " is a file of the project");
 }
 
