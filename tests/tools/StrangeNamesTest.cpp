@@ -18,6 +18,9 @@ constexpr const char* kNewLineSpelt = "a\\x0ab\\x7f";
 constexpr const char* kSecondGroup = "a\xc2\x9b"
                                      "31mz"; // an escape sequence begins with U+009B, too
 constexpr const char* kSecondGroupSpelt = "a\\xc2\\x9b31mz";
+constexpr const char* kTurned = "a\xe2\x80\xae"
+                                "nart\xe2\x81\xa9"; // U+202E, U+2069: reads as "tran"
+constexpr const char* kTurnedSpelt = "a\\xe2\\x80\\xaenart\\xe2\\x81\\xa9";
 constexpr const char* kLatin1 = "caf\xe9-\xe2\x82";
 constexpr const char* kLatin1Spelt = "caf\\xe9-\\xe2\\x82";
 
@@ -25,7 +28,8 @@ bool isSafe(const std::string& text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     const auto byte = static_cast<unsigned char>(text[at]);
     const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
-    if ((byte < 0x20 && byte != '\n') || byte == 0x7f || (byte == 0xc2 && next < 0xa0))
+    if ((byte < 0x20 && byte != '\n') || byte == 0x7f || (byte == 0xc2 && next < 0xa0) ||
+        text.compare(at, 3, "\xe2\x80\xae") == 0 || text.compare(at, 3, "\xe2\x81\xa9") == 0)
       return false;
   }
   return true;
@@ -114,6 +118,7 @@ INSTANTIATE_TEST_SUITE_P(With, StrangeName,
                                            Name{"NewLine", kNewLine, kNewLineSpelt},
                                            Name{"SecondGroupOfControls", kSecondGroup,
                                                 kSecondGroupSpelt},
+                                           Name{"Turned", kTurned, kTurnedSpelt},
                                            Name{"BytesThatAreNoUtf8", kLatin1, kLatin1Spelt}),
                          [](const auto& name) { return std::string(name.param.what); });
 

@@ -15,6 +15,15 @@ bool isSecondGroupControl(std::string_view text, std::size_t at) {
   return byteAt(text, at) == 0xc2 && byteAt(text, at + 1) >= 0x80 && byteAt(text, at + 1) < 0xa0;
 }
 
+// U+2028 to U+202E and U+2066 to U+2069 begin a line or turn the text behind them round, so that a
+// name reads as another one. Three bytes each.
+bool isLayoutControl(std::string_view text, std::size_t at) {
+  const unsigned char last = byteAt(text, at + 2);
+  return byteAt(text, at) == 0xe2 &&
+         ((byteAt(text, at + 1) == 0x80 && last >= 0xa8 && last <= 0xae) ||
+          (byteAt(text, at + 1) == 0x81 && last >= 0xa6 && last <= 0xa9));
+}
+
 // How many bytes the UTF-8 character at a place has; 0 when there is none.
 std::size_t characterLength(std::string_view text, std::size_t at) {
   const unsigned char lead = byteAt(text, at);
@@ -32,7 +41,7 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
 bool isPrintable(std::string_view text, std::size_t at) {
   const unsigned char byte = byteAt(text, at);
   return byte >= kFirstPrintable && byte != kDelete && characterLength(text, at) != 0 &&
-         !isSecondGroupControl(text, at);
+         !isSecondGroupControl(text, at) && !isLayoutControl(text, at);
 }
 
 std::string hexOf(unsigned char byte) {
@@ -79,12 +88,17 @@ std::string shownFrom(const std::string& folder, const std::string& path) {
 std::string withControlsEscaped(const std::string& json) {
   std::string result;
   for (std::size_t at = 0; at < json.size(); ++at) {
-    if (isSecondGroupControl(json, at))
+    if (isSecondGroupControl(json, at)) {
       result += "\\u00" + hexOf(byteAt(json, ++at));
-    else if (byteAt(json, at) == kDelete)
+    } else if (isLayoutControl(json, at)) {
+      const unsigned high = byteAt(json, ++at) & 1U; // of the code's lower byte
+      const unsigned low = byteAt(json, ++at) & 0x3fU;
+      result += "\\u20" + hexOf(static_cast<unsigned char>(high << 6U | low));
+    } else if (byteAt(json, at) == kDelete) {
       result += "\\u00" + hexOf(kDelete);
-    else
+    } else {
       result += json[at];
+    }
   }
   return result;
 }

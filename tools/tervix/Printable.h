@@ -5,8 +5,9 @@
 
 namespace tervix::tool {
 
-// text with its control characters and the bytes that are no UTF-8 spelt out (as \x1b), so that a
-// strange file name cannot drive the terminal.
+// text with its control characters, those that break lines or turn the text round included, and
+// the bytes that are no UTF-8 spelt out (as \x1b), so that a strange file name cannot drive the
+// terminal or pass for another.
 std::string printable(std::string_view text);
 
 bool isUtf8(std::string_view text);

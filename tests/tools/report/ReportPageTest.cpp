@@ -202,7 +202,7 @@ INSTANTIATE_TEST_SUITE_P(
         Hostile{"EndOfTitle", "<title>x<plaintext>", "<title>x<plaintext>"},
         Hostile{"ControlCharacters", "a\x1b[31m\x07\nb", "a\\x1b[31m\\x07\\x0ab"},
         Hostile{"BytesThatAreNoUtf8", "caf\xe9", "caf\\xe9"},
-        Hostile{"LineSeparators", "a\xe2\x80\xa8z\xe2\x80\xa9", "a\xe2\x80\xa8z\xe2\x80\xa9"},
+        Hostile{"LineSeparators", "a\xe2\x80\xa8z\xe2\x80\xa9", "a\\xe2\\x80\\xa8z\\xe2\\x80\\xa9"},
         Hostile{"PlaceOfTheTemplate", "@DATA@@STYLE@", "@DATA@@STYLE@"}),
     [](const auto& name) { return std::string(name.param.what); });
 
