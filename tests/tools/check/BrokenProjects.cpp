@@ -159,6 +159,18 @@ std::vector<BrokenProject> brokenProfiles() {
       {"LineThatALoadDrops", kSimulation,
        [](Project& p) { p.append(kTranList, "* a comment\n\n"); },
        "dropped-line " + kTranList + ":5"},
+      {"TextBehindAnEntry", kSimulation,
+       [](Project& p) {
+         p.append(kTranList, ".INC \"./tran.inc\" ; a comment\n");
+         p.write(kTop + "tran/tran.inc", "");
+       },
+       "dropped-line " + kTranList + ":5"},
+      {"EntriesInOneLine", kSimulation,
+       [](Project& p) {
+         p.append(kTranList, ".INC \"./tran.inc\"\r.INC \"./more.inc\"\r");
+         p.write(kTop + "tran/tran.inc", "");
+       },
+       "dropped-entry " + kTranList + ":5"},
   };
 }
 

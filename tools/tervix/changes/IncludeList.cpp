@@ -42,6 +42,12 @@ bool holds(std::string_view text, std::string_view piece) {
   return text.find(piece) != std::string_view::npos;
 }
 
+std::string_view behindQuotes(std::string_view line) {
+  const auto place = quotedIn(line);
+  const std::size_t end = place ? place->begin + place->length : line.size();
+  return end < line.size() && line[end] == '"' ? line.substr(end + 1) : std::string_view();
+}
+
 std::string lineOf(const EntryForm& form, std::string path) {
   std::replace(path.begin(), path.end(), '/', '\\');
   return std::string(form.keyword).append("\t\"").append(path).append("\" ");
@@ -113,16 +119,19 @@ void IncludeList::remove(VARIANTFILE_TYPE kind, std::size_t index) {
   }
 }
 
+bool isBlankText(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 void forEachLine(std::string_view includeList,
                  const std::function<void(const IncludeListLine&)>& tell) {
   for (std::size_t number = 1; !includeList.empty(); ++number) {
     const std::string_view line = takeLine(includeList);
     const EntryForm* form = formOf(line);
-    const bool isBlank = line.find_first_not_of(" \t\r\n") == std::string_view::npos;
     if (form != nullptr)
-      tell({number, form->kind, valueIn(line), isBlank});
+      tell({number, form->kind, valueIn(line), behindQuotes(line), false});
     else
-      tell({number, std::nullopt, {}, isBlank});
+      tell({number, std::nullopt, {}, {}, isBlankText(line)});
   }
 }
 

@@ -45,9 +45,11 @@ struct IncludeListLine {
   std::size_t line;
   std::optional<VARIANTFILE_TYPE> kind; // of an entry; none on any other line
   std::string_view value;               // of an entry; empty without one
+  std::string_view rest;                // of an entry: what follows the value's second quote
   bool isBlank;
 };
 
+bool isBlankText(std::string_view text);
 void forEachLine(std::string_view includeList,
                  const std::function<void(const IncludeListLine&)>& tell);
 

@@ -96,7 +96,7 @@ const std::vector<FindingKind>& findingKinds() {
       {Code::kMissingOutput, "missing-output", kNote,
        "The simulator's output file is not there; a run makes it.", "Run the simulation."},
       {Code::kDroppedLine, "dropped-line", kNote,
-       "A line of an include list is no entry, and lost when the list is saved.",
+       "A line of an include list, or what follows its entry, is lost when the list is saved.",
        "Keep it elsewhere."},
       {Code::kFormerName, "former-name", kNote, "Files bear the name of a profile that is no more.",
        "Remove them, or rename them."},

@@ -33,15 +33,17 @@ public:
     std::string value(line.value);
     if (!line.kind) {
       if (!line.isBlank)
-        drop({{profile_.includeList, line.line}, false, false, std::move(value)});
+        drop({placeOf(line), Dropped::kLine, {}});
     } else if (isNextLoaded(*line.kind, value)) {
       ++next_[*line.kind];
       list_.loaded.push_back({*line.kind, line.line, std::move(value)});
+      if (!isBlankText(line.rest))
+        drop({placeOf(line), Dropped::kRest, std::string(line.rest)});
     } else {
       const bool isOpen =
           isNextLoaded(*line.kind, value + "\n") || isNextLoaded(*line.kind, value + "\r\n");
       next_[*line.kind] += isOpen ? 1 : 0;
-      drop({{profile_.includeList, line.line}, true, isOpen, std::move(value)});
+      drop({placeOf(line), isOpen ? Dropped::kOpenEntry : Dropped::kEntry, std::move(value)});
     }
   }
 
@@ -50,6 +52,7 @@ private:
     const std::vector<std::string>& loaded = profile_.files[kind];
     return next_[kind] < loaded.size() && loaded[next_[kind]] == value;
   }
+  Place placeOf(const IncludeListLine& line) const { return {profile_.includeList, line.line}; }
   void drop(DroppedLine line) { list_.dropped.push_back(std::move(line)); }
 
   const LoadedProfile& profile_;

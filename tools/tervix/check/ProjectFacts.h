@@ -98,12 +98,18 @@ struct SimFile {
   const SimKeyFacts& key(SimKey key) const { return keys.at(static_cast<std::size_t>(key)); }
 };
 
-// One entry or other line of an include list that a load drops.
+// What a load of an include list drops.
+enum class Dropped {
+  kLine, // that is no entry
+  kEntry,
+  kOpenEntry, // without its second quote, and loaded with the line's end
+  kRest       // of the line of an entry
+};
+
 struct DroppedLine {
   Place place;
-  bool isEntry;
-  bool isOpen; // without its second quote, and loaded with the line's end
-  std::string value;
+  Dropped what;
+  std::string value; // of the entry, or the rest
 };
 
 struct IncludeCycle {
