@@ -9,6 +9,7 @@
 #include "tools/tervix/changes/ArchivePaths.h"
 #include "tools/tervix/changes/ArchiveTexts.h"
 #include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/ProjectLayout.h"
 
 // The library's archiveProject is not called here: it carries the profiles of one of the four
@@ -20,17 +21,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string folderOf(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
-
 std::string stemOf(const std::string& path) {
   return fs::path(path).stem().string();
 }
 
 // For front end 1 the folder above that of the project names the design, and so goes along.
 std::string rootOf(const ProjectLayout& layout) {
-  return layout.hasDesignFile() ? layout.folder : folderOf(layout.folder);
+  return layout.hasDesignFile() ? layout.folder : folderHolding(layout.folder);
 }
 
 std::string newRootIn(const std::string& archive, const ProjectLayout& layout) {
@@ -102,7 +99,7 @@ private:
   }
 
   void gatherBeside(const std::string& file) {
-    files_.addFilesNamed(folderOf(file), {stemOf(file) + "."});
+    files_.addFilesNamed(folderHolding(file), {stemOf(file) + "."});
   }
 
   void gatherNamedFiles() {
@@ -129,7 +126,7 @@ private:
       return leads ? paths_.textFor(file.named, file.isNeverBare) : file.named.text;
     };
     const std::map<std::string, std::string> texts = textsOf(view_, layout_, newText);
-    plan.madeFolders.push_back(folderOf(plan.projectFile));
+    plan.madeFolders.push_back(folderHolding(plan.projectFile));
     for (const std::string& folder : files_.folders())
       plan.madeFolders.push_back(paths_(folder));
     for (const std::string& file : files_.files())

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/Names.h"
 
 namespace tervix::tool {
@@ -21,10 +22,6 @@ bool endsAsNetlist(const std::string& place) {
   const std::string ending = fs::path(place).extension().string();
   return std::any_of(kNetlistEndings.begin(), kNetlistEndings.end(),
                      [&](const char* known) { return isSameName(ending, known); });
-}
-
-std::string folderOf(const std::string& place) {
-  return fs::path(place).parent_path().generic_string();
 }
 
 std::string described(const IncludedFile& included) {
@@ -54,11 +51,11 @@ void ArchiveNetlists::read(const std::string& netlist, std::vector<std::string>&
     return files_.remark("unread", netlist, "is too large to look for what it includes");
   std::ifstream stream(netlist, std::ios::binary);
   for (const IncludedFile& included : includedFiles(stream)) {
-    const std::string folder = folderOf(netlist);
+    const std::string folder = folderHolding(netlist);
     const std::string place = paths_.placeOf({included.text, folder});
     if (files_.addFile(place)) {
       if (!isFullText(included.text))
-        paths_.keepTogether(folder, folderOf(place));
+        paths_.keepTogether(folder, folderHolding(place));
       lines_.push_back({netlist, included, place});
       more.push_back(place);
     } else if (!included.maybeSection) {
@@ -71,7 +68,7 @@ void ArchiveNetlists::read(const std::string& netlist, std::vector<std::string>&
 void ArchiveNetlists::tellUnresolved() {
   for (const Line& line : lines_) {
     const std::string newPlace = paths_(line.place);
-    const NamedPath named = {line.included.text, folderOf(paths_(line.netlist))};
+    const NamedPath named = {line.included.text, folderHolding(paths_(line.netlist))};
     if (isFullText(line.included.text) || placeOf(named) != newPlace)
       files_.remark("unresolved", line.netlist,
                     described(line.included) +

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/Names.h"
 
 namespace tervix::tool {
@@ -12,10 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kExternal = "external";
-
-std::string folderOf(const std::string& place) {
-  return fs::path(place).parent_path().generic_string();
-}
 
 std::string commonFolder(const std::string& a, const std::string& b) {
   const fs::path first = a;
@@ -94,7 +91,7 @@ void ArchivePaths::addFile(const std::string& place) {
   if (isOwn(place))
     return noteOwn(place);
   files_.insert(place);
-  addFolder(folderOf(place));
+  addFolder(folderHolding(place));
 }
 
 void ArchivePaths::addFolder(const std::string& place) {
@@ -140,7 +137,7 @@ void ArchivePaths::settle() {
   }
   for (const std::string& file : files_)
     // The root of a file system is no folder to the map.
-    if (const std::string folder = folderOf(file); folder.back() == '/') {
+    if (const std::string folder = folderHolding(file); folder.back() == '/') {
       const std::string& base = groupBases.at(groupOf(folder));
       map_.moveFile(file, newBases.at(base) + "/" + fs::path(file).filename().string());
     }

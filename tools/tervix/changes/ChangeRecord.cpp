@@ -6,16 +6,13 @@
 
 #include "foundation/platform/Process.h"
 #include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/Journal.h"
 
 namespace tervix::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string folderOf(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
 
 std::string fileNameOf(const std::string& path) {
   return fs::path(path).filename().generic_string();
@@ -25,12 +22,12 @@ std::vector<std::string> newFoldersOf(const ChangePlan& plan) {
   std::set<std::string> folders; // an outer folder's path comes before those in it
   const auto note = [&](std::string folder) {
     while (!folder.empty() && !isThere(folder) && folders.insert(folder).second)
-      folder = folderOf(folder);
+      folder = folderHolding(folder);
   };
   for (const std::string& folder : plan.madeFolders)
     note(folder);
   for (const ChangePlan::Made& made : plan.made)
-    note(folderOf(made.path));
+    note(folderHolding(made.path));
   return {folders.begin(), folders.end()};
 }
 
@@ -40,13 +37,13 @@ std::vector<Scratch> scratchOf(const ChangeRecord& record) {
   std::map<std::string, std::string> sources;
   const std::string own = "/.tervix-" + std::to_string(record.process);
   for (const ChangePlan::Made& made : record.plan.made) {
-    const std::string folder = folderOf(made.path);
+    const std::string folder = folderHolding(made.path);
     // The library's own, of a copy and of a rewritten ".sim" file.
     sources[folder + own] = "";
     sources[made.path + ".bak"] = "";
     sources[folder + "/.tervix-" + fileNameOf(made.path)] = "";
     // A copied folder holds its files under their old names at first.
-    if (!made.source.empty() && folder != folderOf(made.source))
+    if (!made.source.empty() && folder != folderHolding(made.source))
       sources[folder + "/" + fileNameOf(made.source)] = made.source;
   }
   for (const ChangePlan::Made& made : record.plan.made)

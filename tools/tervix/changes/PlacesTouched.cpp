@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "tools/tervix/changes/Folders.h"
+
 namespace tervix::tool {
 namespace {
 
@@ -32,16 +34,6 @@ template <class Visit> void forEachPath(const ChangeRecord& record, Visit visit)
 }
 
 } // namespace
-
-std::string folderHolding(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
-
-std::string withoutLinks(const std::string& path) {
-  std::error_code error;
-  const fs::path place = fs::weakly_canonical(path, error);
-  return error ? std::string() : place.generic_string();
-}
 
 PlacesTouched::PlacesTouched(std::vector<std::string> folders) {
   for (std::string& folder : folders) {

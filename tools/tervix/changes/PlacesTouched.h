@@ -9,10 +9,6 @@
 
 namespace tervix::tool {
 
-// The folder of a path, and a path or folder as it is without links.
-std::string folderHolding(const std::string& path);
-std::string withoutLinks(const std::string& path);
-
 // The folders in which a change of a project touches files. A link in the project may lead
 // anywhere; what lies there is not the project's to write or remove.
 class PlacesTouched {

@@ -12,6 +12,7 @@
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/ProjectView.h"
 #include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/changes/PlacesTouched.h"
 #include "tools/tervix/changes/ProjectLayout.h"

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/IncludeList.h"
 #include "tools/tervix/changes/NamedPath.h"
 #include "tools/tervix/changes/Names.h"
@@ -11,10 +12,6 @@ namespace tervix::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string folderOf(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
 
 using Changed = std::optional<std::string>;
 
@@ -27,8 +24,8 @@ Changed renamedName(const std::string& value, const std::string& name, const std
 // A path counts from the folder of the ".sim" file. A bare name may also lie in the profile's own
 // folder or in that of the project.
 Changed renamedFile(const References& references, const std::string& value) {
-  const std::string simFolder = folderOf(references.places.sim);
-  const std::string newSimFolder = folderOf(references.map(references.places.sim));
+  const std::string simFolder = folderHolding(references.places.sim);
+  const std::string newSimFolder = folderHolding(references.map(references.places.sim));
   if (value.find_first_of("/\\") != std::string::npos)
     return renamedText({value, simFolder}, newSimFolder, references.map);
   for (const std::string& folder :

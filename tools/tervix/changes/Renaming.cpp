@@ -6,6 +6,7 @@
 
 #include "tools/tervix/Failure.h"
 #include "tools/tervix/changes/FileContent.h"
+#include "tools/tervix/changes/Folders.h"
 #include "tools/tervix/changes/NamedPath.h"
 #include "tools/tervix/changes/Names.h"
 #include "tools/tervix/changes/OpenFormats.h"
@@ -17,10 +18,6 @@ namespace tervix::tool {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string folderOf(const std::string& path) {
-  return fs::path(path).parent_path().generic_string();
-}
 
 void mapAll(PathMap& map, const std::vector<std::string>& from,
             const std::vector<std::string>& to) {
@@ -68,8 +65,8 @@ void Renaming::renameProject(const std::string& newName) {
 
 // For front end 1 project, design and schematic bear the name of the folder that holds them all.
 void Renaming::renameAll(const std::string& newName) {
-  const std::string outer = folderOf(before_.folder);
-  const std::string newOuter = folderOf(outer) + "/" + newName;
+  const std::string outer = folderHolding(before_.folder);
+  const std::string newOuter = folderHolding(outer) + "/" + newName;
   after_.project = newName;
   after_.design = newName;
   after_.folder = newOuter + before_.folder.substr(outer.size());
