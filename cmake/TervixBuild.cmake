@@ -36,7 +36,9 @@ target_compile_options(tervix_warnings INTERFACE
 if(TERVIX_SANITIZE)
   add_compile_options(-fsanitize=${TERVIX_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=${TERVIX_SANITIZE})
+  # Programs lie at a fixed address: they start in two thirds of the time, and tests start thousands.
+  add_link_options(-fsanitize=${TERVIX_SANITIZE}
+                   $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-no-pie>)
 endif()
 
 # What reads paths as std::filesystem has them, and what programs take that name files in UTF-8.
