@@ -21,15 +21,26 @@ constexpr const char* kSecondGroupSpelt = "a\\xc2\\x9b31mz";
 constexpr const char* kTurned = "a\xe2\x80\xae"
                                 "nart\xe2\x81\xa9"; // U+202E, U+2069: reads as "tran"
 constexpr const char* kTurnedSpelt = "a\\xe2\\x80\\xaenart\\xe2\\x81\\xa9";
+constexpr const char* kNotSeen = "\xe2\x80\xa8z\xe2\x80\x8b\xd8\x9c\xef\xbb\xbf\xe2\x81\xa6";
+constexpr const char* kNotSeenSpelt =
+    "\\xe2\\x80\\xa8z\\xe2\\x80\\x8b\\xd8\\x9c\\xef\\xbb\\xbf\\xe2\\x81\\xa6";
 constexpr const char* kLatin1 = "caf\xe9-\xe2\x82";
 constexpr const char* kLatin1Spelt = "caf\\xe9-\\xe2\\x82";
+
+// Of three bytes; not seen themselves.
+bool isHidden(const std::string& character) {
+  return character == "\xe2\x80\x8b" || character == "\xe2\x80\x8f" ||
+         (character >= "\xe2\x80\xa8" && character <= "\xe2\x80\xae") ||
+         (character >= "\xe2\x81\xa6" && character <= "\xe2\x81\xa9") ||
+         character == "\xef\xbb\xbf";
+}
 
 bool isSafe(const std::string& text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     const auto byte = static_cast<unsigned char>(text[at]);
     const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
     if ((byte < 0x20 && byte != '\n') || byte == 0x7f || (byte == 0xc2 && next < 0xa0) ||
-        text.compare(at, 3, "\xe2\x80\xae") == 0 || text.compare(at, 3, "\xe2\x81\xa9") == 0)
+        isHidden(text.substr(at, 3)))
       return false;
   }
   return true;
@@ -119,6 +130,7 @@ INSTANTIATE_TEST_SUITE_P(With, StrangeName,
                                            Name{"SecondGroupOfControls", kSecondGroup,
                                                 kSecondGroupSpelt},
                                            Name{"Turned", kTurned, kTurnedSpelt},
+                                           Name{"NotSeen", kNotSeen, kNotSeenSpelt},
                                            Name{"BytesThatAreNoUtf8", kLatin1, kLatin1Spelt}),
                          [](const auto& name) { return std::string(name.param.what); });
 

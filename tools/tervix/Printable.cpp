@@ -1,27 +1,13 @@
 #include "tools/tervix/Printable.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tervix::tool {
 namespace {
 
-constexpr unsigned char kFirstPrintable = 0x20;
-constexpr unsigned char kDelete = 0x7f;
-
 unsigned char byteAt(std::string_view text, std::size_t at) {
   return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
-}
-
-// The second of the two groups of control characters, U+0080 to U+009F, is two bytes each.
-bool isSecondGroupControl(std::string_view text, std::size_t at) {
-  return byteAt(text, at) == 0xc2 && byteAt(text, at + 1) >= 0x80 && byteAt(text, at + 1) < 0xa0;
-}
-
-// U+2028 to U+202E and U+2066 to U+2069 begin a line or turn the text behind them round, so that a
-// name reads as another one. Three bytes each.
-bool isLayoutControl(std::string_view text, std::size_t at) {
-  const unsigned char last = byteAt(text, at + 2);
-  return byteAt(text, at) == 0xe2 &&
-         ((byteAt(text, at + 1) == 0x80 && last >= 0xa8 && last <= 0xae) ||
-          (byteAt(text, at + 1) == 0x81 && last >= 0xa6 && last <= 0xa9));
 }
 
 // How many bytes the UTF-8 character at a place has; 0 when there is none.
@@ -38,10 +24,34 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
   return length;
 }
 
-bool isPrintable(std::string_view text, std::size_t at) {
-  const unsigned char byte = byteAt(text, at);
-  return byte >= kFirstPrintable && byte != kDelete && characterLength(text, at) != 0 &&
-         !isSecondGroupControl(text, at) && !isLayoutControl(text, at);
+char32_t characterAt(std::string_view text, std::size_t at, std::size_t length) {
+  constexpr std::array<unsigned, 5> kBitsOfLead = {0, 0x7f, 0x1f, 0x0f, 0x07};
+  char32_t character = byteAt(text, at) & kBitsOfLead.at(length);
+  for (std::size_t next = 1; next < length; ++next)
+    character = character << 6U | (byteAt(text, at + next) & 0x3fU);
+  return character;
+}
+
+// Controls of terminals, and what is not seen itself but breaks lines, turns the text round or
+// makes a name pass for another. Joiners (U+200C, U+200D) belong to the writing of languages.
+struct Range {
+  char32_t first;
+  char32_t last;
+};
+constexpr std::array<Range, 9> kHidden = {{{0, 0x1f},
+                                           {0x7f, 0x9f},
+                                           {0x61c, 0x61c},
+                                           {0x200b, 0x200b},
+                                           {0x200e, 0x200f},
+                                           {0x2028, 0x202e},
+                                           {0x2060, 0x2064},
+                                           {0x2066, 0x2069},
+                                           {0xfeff, 0xfeff}}};
+
+bool isHidden(char32_t character) {
+  return std::any_of(kHidden.begin(), kHidden.end(), [&](const Range& range) {
+    return range.first <= character && character <= range.last;
+  });
 }
 
 std::string hexOf(unsigned char byte) {
@@ -54,8 +64,8 @@ std::string hexOf(unsigned char byte) {
 std::string printable(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size();) {
-    if (isPrintable(text, at)) {
-      const std::size_t length = characterLength(text, at);
+    const std::size_t length = characterLength(text, at);
+    if (length != 0 && !isHidden(characterAt(text, at, length))) {
       result += text.substr(at, length);
       at += length;
     } else {
@@ -87,18 +97,16 @@ std::string shownFrom(const std::string& folder, const std::string& path) {
 
 std::string withControlsEscaped(const std::string& json) {
   std::string result;
-  for (std::size_t at = 0; at < json.size(); ++at) {
-    if (isSecondGroupControl(json, at)) {
-      result += "\\u00" + hexOf(byteAt(json, ++at));
-    } else if (isLayoutControl(json, at)) {
-      const unsigned high = byteAt(json, ++at) & 1U; // of the code's lower byte
-      const unsigned low = byteAt(json, ++at) & 0x3fU;
-      result += "\\u20" + hexOf(static_cast<unsigned char>(high << 6U | low));
-    } else if (byteAt(json, at) == kDelete) {
-      result += "\\u00" + hexOf(kDelete);
-    } else {
-      result += json[at];
-    }
+  for (std::size_t at = 0; at < json.size();) {
+    const std::size_t length = std::max<std::size_t>(characterLength(json, at), 1);
+    const char32_t character = characterAt(json, at, length);
+    // Line ends are those of the layout: in texts they are escaped already.
+    if (character != '\n' && isHidden(character))
+      result += "\\u" + hexOf(static_cast<unsigned char>(character >> 8U)) +
+                hexOf(static_cast<unsigned char>(character & 0xffU));
+    else
+      result.append(json, at, length);
+    at += length;
   }
   return result;
 }
