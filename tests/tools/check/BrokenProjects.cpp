@@ -171,6 +171,21 @@ std::vector<BrokenProject> brokenProfiles() {
          p.write(kTop + "tran/tran.inc", "");
        },
        "dropped-entry " + kTranList + ":5"},
+      {"EntryBehindAnother", kSimulation,
+       [](Project& p) {
+         p.append(kTranList, ".INC \"./tran.inc\" .LIB \"more.lib\"\n");
+         p.write(kTop + "tran/tran.inc", "");
+       },
+       "dropped-entry " + kTranList + ":5"},
+      {"EntryBehindBlanks", kSimulation,
+       [](Project& p) { p.append(kTranList, "  .inc \"more.inc\"\n"); },
+       "dropped-entry " + kTranList + ":5"},
+      {"QuoteBehindAnEntry", kSimulation,
+       [](Project& p) {
+         p.append(kTranList, ".INC \"./tran.inc\" ; with 5\" of cable\n");
+         p.write(kTop + "tran/tran.inc", "");
+       },
+       "dropped-line " + kTranList + ":5"},
   };
 }
 
@@ -239,6 +254,8 @@ std::vector<BrokenProject> names() {
        "windows-name " + kTop + "tran/Aux.txt"},
       {"NameThatEndsWithADot", kWorkspaceFlat, [](Project& p) { p.write("notes.", ""); },
        "windows-name notes."},
+      {"NameThatEndsWithABlank", kWorkspaceFlat, [](Project& p) { p.write("notes ", ""); },
+       "windows-name notes "},
       {"NameWithAColon", kFlat, [](Project& p) { p.write("a:b", ""); }, "windows-name a:b"},
       {"LongPath", kWorkspace, [](Project& p) { p.write("profiles/tran/" + kLongName, ""); },
        "long-path profiles/tran/" + kLongName},

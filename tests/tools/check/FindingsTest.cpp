@@ -1,7 +1,9 @@
+#include <filesystem>
 #include <set>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/tools/EntriesOnDisk.h"
 #include "tests/tools/check/BrokenProjects.h"
 #include "tools/tervix/check/Finding.h"
@@ -64,6 +66,28 @@ TEST(BrokenProjects, CoverEveryCode) {
   for (const FindingKind& kind : findingKinds())
     known.insert(kind.slug);
   EXPECT_EQ(covered, known);
+}
+
+// A piece of a line is a line to the library.
+TEST(LongLineOfAnIncludeList, IsLoadedInPieces) {
+  const CheckedSample project(kSimulation);
+  const std::string list = "amp-TervixFiles/TOP/tran/tran_profile.inc";
+  project.append(list, std::string(1023, '*') + ".INC \"./gone.inc\"\n.INC \"last.inc\"\n");
+  EXPECT_EQ(findingsIn(project.checkedAsJson()),
+            (Found{"missing-include " + list + ":5", "missing-include " + list + ":6",
+                   "dropped-line " + list + ":5"}));
+}
+
+TEST(FileOfTheDesign, ThatMayNotBeReadIsTold) {
+  const CheckedSample project(kFlat);
+  project.write("TOP.sch", "");
+  project.replace("amp.tvp", "\"amp.dsn\"", "\"amp.dsn\", \"TOP.sch\"");
+  const std::filesystem::path file = project.path("TOP.sch");
+  std::filesystem::permissions(file, std::filesystem::perms::none);
+  const UnprivilegedUser user;
+  if (!user.isInForce())
+    GTEST_SKIP() << "root cannot become another user here";
+  EXPECT_EQ(findingsIn(project.checkedAsJson()), Found{"unreadable-file amp.tvp:5"});
 }
 
 // All that can be broken side by side in one project.

@@ -9,6 +9,7 @@ namespace tervix::tool {
 namespace {
 
 constexpr std::size_t kLongestLine = 1023; // a longer one is loaded in pieces
+constexpr std::string_view kBlanks = " \t\r\n";
 
 // In the order in which the library writes them.
 struct EntryForm {
@@ -42,6 +43,13 @@ bool holds(std::string_view text, std::string_view piece) {
   return text.find(piece) != std::string_view::npos;
 }
 
+std::string_view takePiece(std::string_view& text) {
+  std::string_view head = text.substr(0, kLongestLine);
+  const std::string_view piece = takeLine(head);
+  text.remove_prefix(piece.size());
+  return piece;
+}
+
 std::string_view behindQuotes(std::string_view line) {
   const auto place = quotedIn(line);
   const std::size_t end = place ? place->begin + place->length : line.size();
@@ -59,7 +67,7 @@ std::vector<IncludeList::Entry> IncludeList::entries() const {
   std::vector<Entry> entries;
   for (std::string_view rest = text_; !rest.empty();) {
     const std::size_t begin = text_.size() - rest.size();
-    const std::string_view line = takeLine(rest);
+    const std::string_view line = takePiece(rest);
     const EntryForm* form = formOf(line);
     const std::size_t quote = line.find('"');
     if (form == nullptr || quote == std::string_view::npos)
@@ -119,20 +127,32 @@ void IncludeList::remove(VARIANTFILE_TYPE kind, std::size_t index) {
   }
 }
 
-bool isBlankText(std::string_view text) {
-  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
 void forEachLine(std::string_view includeList,
                  const std::function<void(const IncludeListLine&)>& tell) {
-  for (std::size_t number = 1; !includeList.empty(); ++number) {
-    const std::string_view line = takeLine(includeList);
-    const EntryForm* form = formOf(line);
-    if (form != nullptr)
-      tell({number, form->kind, valueIn(line), behindQuotes(line), false});
+  for (std::size_t number = 1; !includeList.empty();) {
+    const std::string_view line = takePiece(includeList);
+    if (const EntryForm* form = formOf(line); form != nullptr)
+      tell({number, form->kind, valueIn(line), behindQuotes(line)});
     else
-      tell({number, std::nullopt, {}, {}, isBlankText(line)});
+      tell({number, std::nullopt, {}, line});
+    if (line.back() == '\n')
+      ++number;
   }
+}
+
+bool isBlankText(std::string_view text) {
+  return text.find_first_not_of(kBlanks) == std::string_view::npos;
+}
+
+bool holdsEntry(std::string_view text) {
+  while (!text.empty()) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    const std::size_t end = std::min(text.find('\r'), text.size());
+    if (formOf(text) != nullptr && holds(text.substr(0, end), "\""))
+      return true;
+    text.remove_prefix(end);
+  }
+  return false;
 }
 
 const char* reasonAgainstEntry(VARIANTFILE_TYPE kind, const std::string& path) {

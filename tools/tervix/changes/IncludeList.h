@@ -40,18 +40,19 @@ private:
   std::string text_;
 };
 
-// A line of an include list, from 1.
+// A line of an include list, from 1, or a piece of one: the library loads longer lines in pieces.
 struct IncludeListLine {
   std::size_t line;
   std::optional<VARIANTFILE_TYPE> kind; // of an entry; none on any other line
   std::string_view value;               // of an entry; empty without one
-  std::string_view rest;                // of an entry: what follows the value's second quote
-  bool isBlank;
+  std::string_view rest;                // what follows the value's second quote, or the whole line
 };
 
-bool isBlankText(std::string_view text);
 void forEachLine(std::string_view includeList,
                  const std::function<void(const IncludeListLine&)>& tell);
+bool isBlankText(std::string_view text);
+// Whether text has what looks like an entry behind blanks, or behind a carriage return.
+bool holdsEntry(std::string_view text);
 
 // Why the library would not load an entry for such a path; null when it would.
 const char* reasonAgainstEntry(VARIANTFILE_TYPE kind, const std::string& path);

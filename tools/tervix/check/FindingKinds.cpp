@@ -49,7 +49,7 @@ const std::vector<FindingKind>& findingKinds() {
        "Move the file there, or correct ProfileName and RootSchematics."},
       {Code::kDroppedEntry, "dropped-entry", kError,
        "An entry of an include list is not loaded, and lost when the list is saved.",
-       "Correct keyword and ending: .inc, .lib or .stl, in lower case."},
+       "Begin a line with its keyword; end the name in .inc, .lib or .stl, in lower case."},
       {Code::kUnknownRoot, "unknown-root", kError,
        "The root schematic is none of the design's schematics.", "Correct Root in the design."},
       {Code::kLostOriginal, "lost-original", kError,

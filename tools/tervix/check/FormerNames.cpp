@@ -64,18 +64,26 @@ void checkProfileFolder(ProjectFacts& facts, Findings& findings, const SimFile& 
     tell(findings, folder, files);
 }
 
+// Whether a stem has design, schematic and something more in it, with dashes between.
+bool isStemOfSchematic(const ProjectFacts& facts, const std::string& stem) {
+  const std::string design = lowered(facts.layout.design) + "-";
+  if (stem.rfind(design, 0) != 0)
+    return false;
+  for (std::size_t end = stem.find('-', design.size()); end < stem.size() - 1;
+       end = stem.find('-', end + 1))
+    if (facts.schematicNames.count(stem.substr(design.size(), end - design.size())) != 0)
+      return true;
+  return false;
+}
+
 // Whether a file that lies beside all others is a profile's for sure.
 bool isProfileFile(const ProjectFacts& facts, const FolderIndex::Entry& entry,
                    const std::string& stem) {
   for (const char* ending : {".sim.cir", ".sim.1op", ".sim.mif"})
     if (endsWith(entry.name, ending) && !facts.isFrontEnd2())
       return true;
-  const auto isOf = [&](const PlacedName& schematic) {
-    const std::string prefix = lowered(facts.layout.design + "-" + schematic.name + "-");
-    return stem.size() > prefix.size() && stem.rfind(prefix, 0) == 0;
-  };
   return facts.isFrontEnd2() && !endsWith(entry.name, "-default.mrk") &&
-         std::any_of(facts.schematics.begin(), facts.schematics.end(), isOf);
+         isStemOfSchematic(facts, stem);
 }
 
 void checkSharedFolder(ProjectFacts& facts, Findings& findings) {

@@ -32,18 +32,16 @@ public:
   void take(const IncludeListLine& line) {
     std::string value(line.value);
     if (!line.kind) {
-      if (!line.isBlank)
-        drop({placeOf(line), Dropped::kLine, {}});
+      takeRest(line, Dropped::kLine);
     } else if (isNextLoaded(*line.kind, value)) {
       ++next_[*line.kind];
       list_.loaded.push_back({*line.kind, line.line, std::move(value)});
-      if (!isBlankText(line.rest))
-        drop({placeOf(line), Dropped::kRest, std::string(line.rest)});
+      takeRest(line, Dropped::kRest);
     } else {
       const bool isOpen =
           isNextLoaded(*line.kind, value + "\n") || isNextLoaded(*line.kind, value + "\r\n");
       next_[*line.kind] += isOpen ? 1 : 0;
-      drop({placeOf(line), isOpen ? Dropped::kOpenEntry : Dropped::kEntry, std::move(value)});
+      drop(line, isOpen ? Dropped::kOpenEntry : Dropped::kEntry);
     }
   }
 
@@ -52,8 +50,13 @@ private:
     const std::vector<std::string>& loaded = profile_.files[kind];
     return next_[kind] < loaded.size() && loaded[next_[kind]] == value;
   }
-  Place placeOf(const IncludeListLine& line) const { return {profile_.includeList, line.line}; }
-  void drop(DroppedLine line) { list_.dropped.push_back(std::move(line)); }
+  void takeRest(const IncludeListLine& line, Dropped what) {
+    if (!isBlankText(line.rest))
+      drop(line, holdsEntry(line.rest) ? Dropped::kHiddenEntry : what);
+  }
+  void drop(const IncludeListLine& line, Dropped what) {
+    list_.dropped.push_back({{profile_.includeList, line.line}, what, std::string(line.value)});
+  }
 
   const LoadedProfile& profile_;
   ReadList& list_;

@@ -2,7 +2,6 @@
 #include <string_view>
 
 #include "readers/formats/Texts.h"
-#include "tools/tervix/changes/Names.h"
 #include "tools/tervix/check/Gathering.h"
 #include "tools/tervix/check/Paths.h"
 
@@ -49,7 +48,7 @@ void takeDesign(ProjectFacts& facts, const Texts& design) {
     if (text.section != "Design")
       continue;
     if (text.item == "Schematics")
-      facts.schematics.push_back({text.text, place});
+      facts.addSchematic(text.text, place);
     if (text.item == "Root") {
       facts.rootSchematic = text.text;
       facts.rootPlace = place;
@@ -68,11 +67,9 @@ void gatherLists(ProjectFacts& facts, const std::vector<formats::PlacedText>& pr
     }
   }
   if (!facts.isFrontEnd2())
-    facts.schematics.push_back({facts.layout.design, {}});
+    facts.addSchematic(facts.layout.design, {});
   else if (!facts.designFile.empty() && facts.index.isFile(facts.designFile))
     takeDesign(facts, formats::readPlacedTexts(facts.designFile).value_or(Texts()));
-  for (const PlacedName& schematic : facts.schematics)
-    facts.schematicNames.insert(lowered(schematic.name));
 }
 
 } // namespace tervix::tool

@@ -14,6 +14,8 @@ std::string reasonOf(const DroppedLine& dropped) {
     return "what follows the second double quote is lost when the list is saved";
   case Dropped::kOpenEntry:
     return "the entry for " + inQuotes(dropped.value) + " lacks its second double quote";
+  case Dropped::kHiddenEntry:
+    return "an entry that does not begin its line is not loaded";
   case Dropped::kEntry:
     break;
   }
@@ -23,19 +25,14 @@ std::string reasonOf(const DroppedLine& dropped) {
          " is not loaded: its ending does not fit its keyword";
 }
 
-// More quotes behind an entry are those of further entries, as where lines end in "\r" alone.
-bool isEntry(const DroppedLine& dropped) {
-  if (dropped.what == Dropped::kRest)
-    return dropped.value.find('"') != std::string::npos;
-  return dropped.what != Dropped::kLine;
-}
-
 } // namespace
 
 void checkIncludeLists(ProjectFacts& facts, Findings& findings) {
-  for (const DroppedLine& dropped : facts.dropped)
-    findings.add(isEntry(dropped) ? Code::kDroppedEntry : Code::kDroppedLine, dropped.place,
+  for (const DroppedLine& dropped : facts.dropped) {
+    const bool isEntry = dropped.what != Dropped::kLine && dropped.what != Dropped::kRest;
+    findings.add(isEntry ? Code::kDroppedEntry : Code::kDroppedLine, dropped.place,
                  reasonOf(dropped));
+  }
 }
 
 } // namespace tervix::tool

@@ -1,3 +1,4 @@
+#include "foundation/platform/Platform.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/check/Checkers.h"
 #include "tools/tervix/check/Paths.h"
@@ -25,9 +26,15 @@ constexpr std::array<Kind, 8> kKinds = {
 
 void checkFile(ProjectFacts& facts, Findings& findings, const Kind& kind,
                const Reference& reference) {
-  if (reference.type == EntryType::kFile || reference.maybeSection)
+  if (reference.maybeSection)
     return;
   const std::string named = std::string("the ") + kind.what + " " + inQuotes(reference.text);
+  if (reference.type == EntryType::kFile) {
+    // The others are read, which tells.
+    if (kind.role == Role::kResource && !platform::isReadableFile(reference.target))
+      findings.add(Code::kUnreadableFile, reference.place, named + " cannot be read");
+    return;
+  }
   if (reference.type != EntryType::kMissing)
     findings.add(Code::kUnreadableFile, reference.place, named + " is not a regular file");
   else if (const auto spelled = facts.index.spelledPathOf(reference.target))

@@ -32,12 +32,17 @@ Reference& ProjectFacts::refer(Role role, Place place, std::string text) {
       Reference{role, std::move(place), std::move(text), std::move(target), type});
 }
 
+void ProjectFacts::addSchematic(const std::string& name, const Place& place) {
+  schematics.push_back({name, place});
+  schematicNames.emplace(lowered(name), name);
+}
+
 bool ProjectFacts::hasSchematic(const std::string& name) const {
   return schematicNames.count(lowered(name)) != 0;
 }
 
-const LoadedProfile* ProjectFacts::loadedAs(const std::string& keyOfNames) const {
-  const auto found = loadedByNames.find(keyOfNames);
+const LoadedProfile* ProjectFacts::loadedAs(const std::string& key) const {
+  const auto found = loadedByNames.find(key);
   return found == loadedByNames.end() ? nullptr : &loaded[found->second];
 }
 

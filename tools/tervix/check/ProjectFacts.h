@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "CTervixProject.h"
@@ -89,7 +88,7 @@ struct ListedFolder {
 struct SimFile {
   std::string path;
   Place registered;        // in the project file; without a file when it is not registered
-  bool isRepeated = false; // registered once more
+  bool isRepeated = false; // an earlier line registers it
   bool isThere = false;
   bool isRead = false;
   std::array<SimKeyFacts, 8> keys;
@@ -101,15 +100,16 @@ struct SimFile {
 // What a load of an include list drops.
 enum class Dropped {
   kLine, // that is no entry
+  kRest, // of the line of an entry
   kEntry,
-  kOpenEntry, // without its second quote, and loaded with the line's end
-  kRest       // of the line of an entry
+  kOpenEntry,  // without its second quote, and loaded with the line's end
+  kHiddenEntry // that does not begin its line
 };
 
 struct DroppedLine {
   Place place;
   Dropped what;
-  std::string value; // of the entry, or the rest
+  std::string value; // of the entry
 };
 
 struct IncludeCycle {
@@ -128,8 +128,8 @@ struct ProjectFacts {
   Place rootPlace;
   std::string activeProfile;
   Place activePlace;
-  std::vector<PlacedName> schematics;             // as the design lists them
-  std::unordered_set<std::string> schematicNames; // the same in lower case
+  std::vector<PlacedName> schematics;                          // as the design lists them
+  std::unordered_map<std::string, std::string> schematicNames; // the same by lower case
   std::vector<LoadedProfile> loaded;
   std::unordered_map<std::string, std::size_t> loadedByNames; // see keyOfNames
   std::vector<SimFile> sims; // registered ones first, in their order
@@ -146,8 +146,9 @@ struct ProjectFacts {
   bool knowsDesign() const { return !isFrontEnd2() || !layout.design.empty(); }
   // Takes a name down, with what stands where it leads.
   Reference& refer(Role role, Place place, std::string text);
+  void addSchematic(const std::string& name, const Place& place);
   bool hasSchematic(const std::string& name) const;
-  const LoadedProfile* loadedAs(const std::string& keyOfNames) const;
+  const LoadedProfile* loadedAs(const std::string& key) const; // of keyOfNames
 };
 
 std::string keyOfNames(const std::string& schematic, const std::string& name);

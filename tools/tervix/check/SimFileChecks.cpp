@@ -44,7 +44,7 @@ private:
     const LoadedProfile* loaded; // null when the library has none of these names
   };
 
-  Named named(const SimFile& sim) const {
+  Named namedBy(const SimFile& sim) const {
     Named named{namesOf(facts_, sim), {}, nullptr};
     named.key = keyOfNames(named.names.schematic, named.names.name);
     named.loaded = facts_.loadedAs(named.key);
@@ -77,10 +77,8 @@ private:
     if (named.loaded != nullptr)
       return named.loaded->sim;
     // Under the schematic as the design spells it.
-    const auto listed = std::find_if(
-        facts_.schematics.begin(), facts_.schematics.end(),
-        [&](const PlacedName& name) { return isSameName(name.name, named.names.schematic); });
-    return facts_.layout.placesOf(listed->name, named.names.name).sim;
+    const std::string& schematic = facts_.schematicNames.at(lowered(named.names.schematic));
+    return facts_.layout.placesOf(schematic, named.names.name).sim;
   }
 
   // Where case is ignored the names may differ in it.
@@ -91,7 +89,7 @@ private:
   }
 
   void checkPlaced(const SimFile& sim) {
-    const Named names = named(sim);
+    const Named names = namedBy(sim);
     if (facts_.isFrontEnd2() && !sim.isRegistered())
       checkUnregistered(sim, names);
     else if (const Obstacle obstacle = obstacleTo(sim, names); !obstacle.text.empty())
