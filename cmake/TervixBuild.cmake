@@ -36,9 +36,11 @@ target_compile_options(tervix_warnings INTERFACE
 if(TERVIX_SANITIZE)
   add_compile_options(-fsanitize=${TERVIX_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
-  # Programs lie at a fixed address: they start in two thirds of the time, and tests start thousands.
-  add_link_options(-fsanitize=${TERVIX_SANITIZE}
-                   $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-no-pie>)
+  add_link_options(-fsanitize=${TERVIX_SANITIZE})
+  # At a fixed address programs start in two thirds of the time, and tests start thousands.
+  if(TERVIX_SANITIZE MATCHES "address")
+    add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-no-pie>)
+  endif()
 endif()
 
 # What reads paths as std::filesystem has them, and what programs take that name files in UTF-8.

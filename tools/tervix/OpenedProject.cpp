@@ -51,14 +51,6 @@ FRONTEND_ID frontEndFor(FileKind kind, const fs::path& file, std::optional<int> 
   return frontEnd;
 }
 
-// The full path. A ".." is followed as the system does, since the folder before it may be a link.
-fs::path fullPathOf(const std::string& file) {
-  const fs::path full = fs::absolute(file);
-  if (std::find(full.begin(), full.end(), "..") == full.end())
-    return full.lexically_normal();
-  return fs::canonical(full.parent_path()) / full.filename();
-}
-
 void requireFile(const std::string& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
@@ -77,14 +69,23 @@ std::string withForwardSlashes(std::string path) {
 
 } // namespace
 
+std::string fullPathOf(const std::string& file) {
+  const fs::path full = fs::absolute(withForwardSlashes(file));
+  std::error_code error;
+  if (std::find(full.begin(), full.end(), "..") != full.end())
+    if (const fs::path folder = fs::canonical(full.parent_path(), error); !error)
+      return (folder / full.filename()).generic_string();
+  return full.lexically_normal().generic_string();
+}
+
 CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd) {
   const std::string file = withForwardSlashes(path);
   requireFile(file);
   const FileKind kind = kindOf(file);
-  const fs::path full = fullPathOf(file);
+  const std::string full = fullPathOf(file);
   static auto& projects = *new std::vector<CTervixProject*>;
-  auto* const project = new CTervixProject(full.generic_string().c_str(),
-                                           frontEndFor(kind, full, frontEnd), false, nullptr);
+  auto* const project =
+      new CTervixProject(full.c_str(), frontEndFor(kind, full, frontEnd), false, nullptr);
   projects.push_back(project);
   if (const unsigned long status = project->initialize(); status != 0)
     throw libraryFailure(status, inQuotes(file) + " could not be opened as a project");
@@ -95,7 +96,7 @@ CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd
 
 std::string projectFileFor(const std::string& path, std::optional<int> frontEnd) {
   const std::string file = withForwardSlashes(path);
-  return kindOf(file) == FileKind::kProject ? fullPathOf(file).generic_string()
+  return kindOf(file) == FileKind::kProject ? fullPathOf(file)
                                             : projectFileOf(openProject(path, frontEnd));
 }
 

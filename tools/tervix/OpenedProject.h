@@ -15,6 +15,10 @@ namespace tervix::tool {
 // include list, and a command that only reads must not write.
 CTervixProject& openProject(const std::string& path, std::optional<int> frontEnd);
 
+// The full path of a file, with forward slashes. A ".." is followed as the system does, since the
+// folder before it may be a link.
+std::string fullPathOf(const std::string& file);
+
 // The full path of the project file that openProject would open, there or not. A profile or
 // analysis file is opened to know it.
 std::string projectFileFor(const std::string& path, std::optional<int> frontEnd);

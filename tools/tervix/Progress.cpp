@@ -11,7 +11,7 @@ constexpr std::chrono::milliseconds kBetween(100);
 
 } // namespace
 
-Progress::Progress() : isShown_(platform::standardErrorTakesProgress()), drawn_(Clock::now()) {}
+Progress::Progress() : isShown_(platform::standardErrorTakesProgress()) {}
 
 Progress::~Progress() {
   clear();
@@ -21,7 +21,7 @@ void Progress::tell(const char* what, std::size_t count) {
   if (!isShown_)
     return;
   const Clock::time_point now = Clock::now();
-  if (now - drawn_ < kBetween)
+  if (isDrawn_ && now - drawn_ < kBetween)
     return;
   isDrawn_ = true;
   drawn_ = now;

@@ -56,6 +56,16 @@ TEST_F(Fix, LeavesNothingOfWhatItRepairs) {
   EXPECT_EQ(findingsIn(project_.checkedAsJson()), Found());
 }
 
+TEST_F(Fix, IsNotDoneWhenItCannotBePrintedFirst) {
+  const EntriesOnDisk before = entriesOf(project_.folder());
+  RunOptions options;
+  options.output = Output::kFullDevice;
+  const ToolRun run = runTool({"check", project_.project(), "--fix"}, options);
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("so none was made"), std::string::npos) << run.errors;
+  expectUntouched(before, entriesOf(project_.folder()), "printing");
+}
+
 TEST_F(Fix, ChangesOnlyTheTextThatIsWrong) {
   fix();
   EXPECT_NE(project_.content("amp.tvp").find("[\"./opamp.lib\"]"), std::string::npos);

@@ -1,5 +1,8 @@
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tools/EntriesOnDisk.h"
 #include "tests/tools/check/CheckFixture.h"
 
@@ -48,6 +51,17 @@ TEST(CheckText, IsColouredOnATerminal) {
   EXPECT_NE(run.output.find("\033[1mwarning\033[0m"), std::string::npos) << run.output;
 }
 
+TEST(CheckText, TellsOnATerminalHowFarItIs) {
+  const CheckedSample project(0);
+  const ToolRun run = runToolOnTerminal({"check", project.project()});
+  const std::size_t told = run.output.find("\r\033[Klisting the folders of profiles (");
+  const std::size_t cleared = run.output.rfind("\r\033[K");
+  ASSERT_NE(told, std::string::npos) << run.output;
+  EXPECT_LT(told, cleared) << run.output;
+  EXPECT_LT(cleared, run.output.find("nothing found")) << run.output;
+  EXPECT_EQ(project.check().errors, "");
+}
+
 TEST(CheckText, FailsWhenItCannotBePrinted) {
   const CheckedSample project(1);
   project.write("npn.lib.bak", "");
@@ -64,6 +78,16 @@ TEST(CheckUsage, NeedsAFileThatIsThere) {
   const CheckedSample project(1);
   expectFailure(2, "\"" + project.folder() + "\" is not a file that is there",
                 {"check", project.folder()});
+}
+
+TEST(CheckUsage, FollowsTheFolderAboveALinkAsTheSystemDoes) {
+  const CheckedSample project(1);
+  const TemporaryFolder elsewhere;
+  std::filesystem::create_directory_symlink(project.folder(), elsewhere.path("link"));
+  const std::string name = std::filesystem::path(project.folder()).filename().string();
+  const ToolRun run = runTool({"check", elsewhere.path("link/../" + name + "/amp.tvp")});
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(run.output, "nothing found\n");
 }
 
 TEST(CheckUsage, NeedsAFileOfAProject) {

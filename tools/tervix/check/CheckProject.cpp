@@ -43,12 +43,6 @@ Finding unopenable(const std::string& file, const std::string& reason) {
       Code::kProjectUnopenable, seenIn(folder, mistake->file), mistake->line, mistake->text, {}};
 }
 
-std::string fullPathOf(const std::string& file) {
-  std::string forward = file;
-  std::replace(forward.begin(), forward.end(), '\\', '/');
-  return fs::absolute(forward).lexically_normal().generic_string();
-}
-
 std::vector<Finding> findingsIn(ProjectFacts& facts, Progress& progress) {
   progress.tell("comparing files", facts.references.size() + facts.sims.size());
   Findings findings(facts.layout);

@@ -32,6 +32,11 @@ public:
 
   // Folders below root are listed; of files elsewhere each is asked for by itself.
   explicit FolderIndex(std::string root) : root_(std::move(root)) {}
+  ~FolderIndex() = default;
+  FolderIndex(const FolderIndex&) = delete; // what was found is pointed to
+  FolderIndex& operator=(const FolderIndex&) = delete;
+  FolderIndex(FolderIndex&&) = default;
+  FolderIndex& operator=(FolderIndex&&) = default;
 
   // What was listed before it was asked for.
   void take(Folders folders) { folders_.merge(folders); }
@@ -54,8 +59,8 @@ public:
 
   // The bytes of a file; none when it cannot be read, or is larger than a text that people write.
   std::optional<std::string> text(const std::string& path);
-  // Hands over the bytes of each file by its number, from several threads at once, so that no more
-  // of them are held than are being looked at. What is no file is passed over.
+  // Hands over the bytes of each file by its number, from several threads at once. Those that were
+  // not read ahead are held no longer than they are looked at. What is no file is passed over.
   using TakeText = std::function<void(std::size_t, std::optional<std::string_view>)>;
   void eachText(const std::vector<const std::string*>& paths, const TakeText& take);
 

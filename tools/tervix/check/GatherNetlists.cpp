@@ -142,9 +142,9 @@ private:
   std::vector<std::size_t> way_; // of parts
 };
 
-void addNetlists(const ProjectFacts& facts, FolderIndex& index, IncludeGraph& graph) {
+void addNetlists(ProjectFacts& facts, IncludeGraph& graph) {
   const auto add = [&](const std::string& path) {
-    if (index.isFile(path))
+    if (facts.index.isFile(path))
       graph.add(path);
   };
   for (const PlacedName& schematic : facts.schematics)
@@ -160,7 +160,7 @@ void addNetlists(const ProjectFacts& facts, FolderIndex& index, IncludeGraph& gr
 
 void gatherNetlists(ProjectFacts& facts, Progress& progress) {
   IncludeGraph graph(facts);
-  addNetlists(facts, facts.index, graph);
+  addNetlists(facts, graph);
   graph.follow(progress);
   graph.tellCycles();
 }

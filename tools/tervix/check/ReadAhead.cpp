@@ -35,7 +35,7 @@ ReadAhead::ReadAhead(const std::string& projectFile) : projectFolder_(folderOf(p
              projectFile.substr(0, projectFile.size() - 4).append(kFilesFolderEnding),
              projectFolder_};
   fetch(kFirstSteps);
-  if (toList_.empty() && last_ == nullptr)
+  if (toList_.empty() && current_ == nullptr)
     return;
   try {
     rest_ =
@@ -65,13 +65,13 @@ void ReadAhead::fetch(std::size_t mostSteps) {
   }
 }
 
-// Lists a folder or looks at an entry of the last one; false when all is done.
+// Lists a folder or looks at an entry of the current one; false when all is done.
 bool ReadAhead::step() {
-  if (last_ != nullptr && looked_ < last_->second.entries.size()) {
-    look(last_->second.entries[looked_++]);
+  if (current_ != nullptr && looked_ < current_->second.entries.size()) {
+    look(current_->second.entries[looked_++]);
     return true;
   }
-  last_ = nullptr;
+  current_ = nullptr;
   if (toList_.empty())
     return false;
   std::string path = std::move(toList_.back());
@@ -85,12 +85,12 @@ void ReadAhead::list(std::string path) {
   FolderIndex::Folder folder = listedFolder(path);
   if (!folder.isListed)
     return;
-  last_ = &*fetched_.emplace(std::move(path), std::move(folder)).first;
+  current_ = &*fetched_.emplace(std::move(path), std::move(folder)).first;
   looked_ = 0;
 }
 
 void ReadAhead::look(FolderIndex::Entry& entry) {
-  const std::string& folder = last_->first;
+  const std::string& folder = current_->first;
   if (entry.isLink)
     return;
   // Of the project's folder the profiles are; other folders there may be anybody's.

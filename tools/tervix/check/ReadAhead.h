@@ -32,8 +32,8 @@ private:
   std::string projectFolder_;
   FolderIndex::Folders fetched_;
   std::vector<std::string> toList_;
-  FolderIndex::Folders::value_type* last_ = nullptr; // of those that were fetched
-  std::size_t looked_ = 0;                           // entries of the last
+  FolderIndex::Folders::value_type* current_ = nullptr; // whose entries are looked at
+  std::size_t looked_ = 0;                              // how many of them were
   std::size_t textSize_ = 0;
   std::atomic<bool> isStopped_{false};
   std::future<void> rest_;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "foundation/platform/Console.h"
+#include "tools/tervix/Failure.h"
 #include "tools/tervix/Printable.h"
 #include "tools/tervix/changes/PlanPrinter.h"
 #include "tools/tervix/changes/PlanRunner.h"
@@ -34,12 +35,14 @@ void printRepairs(const RepairPlan& repairs, bool dryRun) {
   printPlan(std::cout, repairs.plan, !dryRun);
   if (!dryRun)
     std::cout << "their former contents go to " << printable(repairs.savedTo) << "\n";
-  std::cout.flush();
 }
 
 void repair(const RepairPlan& repairs, bool dryRun) {
-  if (!dryRun && !repairs.plan.isEmpty())
-    runPlan(repairs.plan);
+  if (dryRun || repairs.plan.isEmpty())
+    return;
+  if (!std::cout.flush())
+    throw Failure("the repairs could not be printed, so none was made");
+  runPlan(repairs.plan);
 }
 
 // By what is left when all repairs are done.
