@@ -180,6 +180,9 @@ std::vector<BrokenProject> brokenProfiles() {
       {"EntryBehindBlanks", kSimulation,
        [](Project& p) { p.append(kTranList, "  .inc \"more.inc\"\n"); },
        "dropped-entry " + kTranList + ":5"},
+      {"EntryBehindAByteOrderMark", kSimulation,
+       [](Project& p) { p.append(kTranList, "\xef\xbb\xbf.inc \"more.inc\"\n"); },
+       "dropped-entry " + kTranList + ":5"},
       {"QuoteBehindAnEntry", kSimulation,
        [](Project& p) {
          p.append(kTranList, ".INC \"./tran.inc\" ; with 5\" of cable\n");

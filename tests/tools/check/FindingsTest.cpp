@@ -78,16 +78,49 @@ TEST(LongLineOfAnIncludeList, IsLoadedInPieces) {
                    "dropped-line " + list + ":5"}));
 }
 
-TEST(FileOfTheDesign, ThatMayNotBeReadIsTold) {
+// What is found while nobody but its owner may read a file or folder.
+Found findingsWithout(const CheckedSample& project, const std::string& name) {
+  const auto everything = std::filesystem::perms::owner_all;
+  std::filesystem::permissions(project.path(name), std::filesystem::perms::none);
+  Found found;
+  {
+    const UnprivilegedUser user;
+    if (user.isInForce())
+      found = findingsIn(project.checkedAsJson());
+    else
+      found = {"root cannot become another user here"};
+  }
+  std::filesystem::permissions(project.path(name), everything);
+  return found;
+}
+
+TEST(ForbiddenFile, OfTheDesignIsTold) {
   const CheckedSample project(kFlat);
   project.write("TOP.sch", "");
   project.replace("amp.tvp", "\"amp.dsn\"", "\"amp.dsn\", \"TOP.sch\"");
-  const std::filesystem::path file = project.path("TOP.sch");
-  std::filesystem::permissions(file, std::filesystem::perms::none);
-  const UnprivilegedUser user;
-  if (!user.isInForce())
-    GTEST_SKIP() << "root cannot become another user here";
-  EXPECT_EQ(findingsIn(project.checkedAsJson()), Found{"unreadable-file amp.tvp:5"});
+  EXPECT_EQ(findingsWithout(project, "TOP.sch"), Found{"unreadable-file amp.tvp:5"});
+}
+
+TEST(ForbiddenFile, IsNoDesignWithoutSchematics) {
+  const CheckedSample project(kFlat);
+  const Found found = findingsWithout(project, "amp.dsn");
+  ASSERT_FALSE(found.empty());
+  EXPECT_EQ(found.front(), "unreadable-file amp.dsn");
+}
+
+TEST(ForbiddenFolder, IsNoEmptyFolderOfAProfile) {
+  const CheckedSample project(kSimulation);
+  project.write("amp-TervixFiles/TOP/lost/precious", "");
+  EXPECT_EQ(findingsWithout(project, "amp-TervixFiles/TOP/lost"),
+            Found{"unreadable-file amp-TervixFiles/TOP/lost"});
+}
+
+TEST(SchematicWithoutAName, IsNone) {
+  for (const SampleNumber sample : {kSimulation, kFlat}) {
+    const CheckedSample project(sample);
+    project.replace("amp.dsn", "\"TOP\"", "\"\", \"TOP\"");
+    EXPECT_EQ(findingsIn(project.checkedAsJson()), Found());
+  }
 }
 
 // All that can be broken side by side in one project.

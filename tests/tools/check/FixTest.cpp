@@ -66,6 +66,14 @@ TEST_F(Fix, IsNotDoneWhenItCannotBePrintedFirst) {
   expectUntouched(before, entriesOf(project_.folder()), "printing");
 }
 
+TEST_F(Fix, CountsWhatComesToLight) {
+  project_.replace("amp-TervixFiles/TOP/ac/ac_profile.inc", "sweep.stl", "SWEEP.STL");
+  project_.replace("amp.tvp", ", \"./amp-TervixFiles/TOP/ac.sim\"", "");
+  EXPECT_EQ(project_.check().status, 0);
+  EXPECT_EQ(fix().status, 3);
+  EXPECT_EQ(project_.check().status, 3);
+}
+
 TEST_F(Fix, ChangesOnlyTheTextThatIsWrong) {
   fix();
   EXPECT_NE(project_.content("amp.tvp").find("[\"./opamp.lib\"]"), std::string::npos);

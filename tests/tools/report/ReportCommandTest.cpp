@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/System.h"
 #include "tests/tools/EntriesOnDisk.h"
 #include "tests/tools/Sample.h"
 #include "tests/tools/report/ReportFixture.h"
@@ -73,6 +74,15 @@ TEST_F(ReportCommand, ReplacesAnEarlierReport) {
   pages_.pageOf(project());
   pages_.file("page.html", contentOf(pages_.path()) + "<!-- old -->");
   EXPECT_EQ(pages_.pageOf(project()).find("<!-- old -->"), std::string::npos);
+}
+
+TEST_F(ReportCommand, DoesNotWaitForAPipe) {
+  const std::string page = pages_.path();
+  ASSERT_TRUE(makePipe(page));
+  const ToolRun run = report({"-o", page});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_NE(run.errors.find("\"" + page + "\" is no regular file"), std::string::npos)
+      << run.errors;
 }
 
 TEST_F(ReportCommand, ReplacesAnotherFileOnlyByForce) {

@@ -9,6 +9,7 @@ namespace tervix::tool {
 namespace {
 
 constexpr std::size_t kLongestLine = 1023; // a longer one is loaded in pieces
+constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 constexpr std::string_view kBlanks = " \t\r\n";
 
 // In the order in which the library writes them.
@@ -145,6 +146,8 @@ bool isBlankText(std::string_view text) {
 }
 
 bool holdsEntry(std::string_view text) {
+  if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+    text.remove_prefix(kByteOrderMark.size());
   while (!text.empty()) {
     text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
     const std::size_t end = std::min(text.find('\r'), text.size());

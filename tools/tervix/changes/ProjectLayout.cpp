@@ -1,6 +1,8 @@
 #include "tools/tervix/changes/ProjectLayout.h"
 
 #include "model/FileSuffixes.h"
+#include "tools/tervix/Failure.h"
+#include "tools/tervix/Printable.h"
 
 namespace tervix::tool {
 namespace {
@@ -33,6 +35,8 @@ public:
     name_ = name;
     CTervixNode* node = nullptr;
     project_.addSchematic(node, name_);
+    if (node == nullptr)
+      throw Failure("nothing can be a schematic named " + inQuotes(name));
     return static_cast<CTervixSchematic&>(*node);
   }
 
@@ -42,6 +46,8 @@ public:
     CTervixNode* node = nullptr;
     bool added = false;
     project_.addProfile(node, added, name_, name);
+    if (node == nullptr)
+      throw Failure("nothing can be a profile named " + inQuotes(profileName));
     return static_cast<CTervixProfile&>(*node);
   }
 

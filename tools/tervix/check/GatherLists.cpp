@@ -47,7 +47,7 @@ void takeDesign(ProjectFacts& facts, const Texts& design) {
     const Place place{facts.designFile, text.line};
     if (text.section != "Design")
       continue;
-    if (text.item == "Schematics")
+    if (text.item == "Schematics" && !text.text.empty()) // none can be without a name
       facts.addSchematic(text.text, place);
     if (text.item == "Root") {
       facts.rootSchematic = text.text;
@@ -68,8 +68,12 @@ void gatherLists(ProjectFacts& facts, const std::vector<formats::PlacedText>& pr
   }
   if (!facts.isFrontEnd2())
     facts.addSchematic(facts.layout.design, {});
-  else if (!facts.designFile.empty() && facts.index.isFile(facts.designFile))
-    takeDesign(facts, formats::readPlacedTexts(facts.designFile).value_or(Texts()));
+  else if (!facts.designFile.empty() && facts.index.isFile(facts.designFile)) {
+    if (const auto texts = formats::readPlacedTexts(facts.designFile))
+      takeDesign(facts, *texts);
+    else
+      facts.unread.push_back({facts.designFile, 0});
+  }
 }
 
 } // namespace tervix::tool

@@ -63,7 +63,8 @@ void findSims(ProjectFacts& facts) {
     }
   for (const ListedFolder& folder : facts.simFolders)
     for (const FolderIndex::Entry& entry : folder.entries())
-      if (entry.type == EntryType::kFile && endsWith(entry.name, ".sim"))
+      if (entry.type == EntryType::kFile && endsWith(entry.name, ".sim") &&
+          entry.name.find('\\') == std::string::npos) // a separator: no path leads to such a name
         if (std::string path = folder.path + "/" + entry.name; registered.count(path) == 0)
           addSim(facts, std::move(path), {}, true);
 }

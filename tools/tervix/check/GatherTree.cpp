@@ -108,6 +108,9 @@ void gatherFolders(ProjectFacts& facts, Progress& progress) {
   if (facts.index.typeOf(top) != EntryType::kFolder)
     return;
   std::vector<ListedFolder> tree = treeBelow(facts, top);
+  for (const ListedFolder& folder : tree)
+    if (!folder.listed->isListed)
+      facts.unread.push_back({folder.path, 0});
   facts.ownFolders.insert(facts.ownFolders.end(), tree.begin(), tree.end());
   if (layout.hasDesignFile()) {
     facts.schematicFolders = listed(facts, foldersIn(tree.front()));

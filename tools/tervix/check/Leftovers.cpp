@@ -97,8 +97,9 @@ bool looksLikeProfileFolder(FolderIndex& index, const std::string& folder) {
            (index.isFile(above + stem + ".sim") &&
             index.typeOf(above + stem) == EntryType::kMissing);
   };
-  const auto& entries = index.folder(folder).entries;
-  return entries.empty() || std::any_of(entries.begin(), entries.end(), isNamedAfterProfile);
+  const auto& [isListed, entries, realPath] = index.folder(folder);
+  return (isListed && entries.empty()) ||
+         std::any_of(entries.begin(), entries.end(), isNamedAfterProfile);
 }
 
 template <class Tell> void forEachFolder(const ListedFolder& above, const Tell& tell) {

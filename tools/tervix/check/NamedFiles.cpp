@@ -55,7 +55,10 @@ void checkNamedFiles(ProjectFacts& facts, Findings& findings) {
     findings.add(Code::kMissingDesign, {facts.layout.projectFile},
                  "the project file lists no design file (.dsn)");
   for (const Place& place : facts.unread)
-    findings.add(Code::kUnreadableFile, place, "the file cannot be read, or is larger than 64 MiB");
+    findings.add(Code::kUnreadableFile, place,
+                 facts.index.typeOf(place.file) == EntryType::kFolder
+                     ? "the folder cannot be read, so what lies there is not checked"
+                     : "the file cannot be read, or is larger than 64 MiB");
 }
 
 } // namespace tervix::tool

@@ -45,12 +45,9 @@ void repair(const RepairPlan& repairs, bool dryRun) {
   runPlan(repairs.plan);
 }
 
-// By what is left when all repairs are done.
-CheckStatus statusOf(const std::vector<Finding>& findings, bool isFixed, bool isStrict) {
+CheckStatus statusOf(const std::vector<Finding>& findings, bool isStrict) {
   CheckStatus status = kNothingFound;
   for (const Finding& finding : findings) {
-    if (isFixed && finding.isFixable())
-      continue;
     if (finding.severity() == Severity::kError)
       return kErrorsFound;
     if (isStrict && finding.severity() == Severity::kWarning)
@@ -79,7 +76,11 @@ CheckStatus check(CheckOptions& options) {
     repair(*repairs, options.dryRun);
   if (options.asJson)
     std::cout << jsonOf(checked, repairs ? &*repairs : nullptr, isFixed) << "\n";
-  return statusOf(checked.findings, isFixed, options.isStrict);
+  if (!isFixed || repairs->plan.isEmpty())
+    return statusOf(checked.findings, options.isStrict);
+  // A repair may bring to light what could not be seen before, as the files of a profile do that
+  // was not registered, and may mend more than it is for.
+  return statusOf(checkFile(options.file, options.frontEnd, progress).findings, options.isStrict);
 }
 
 } // namespace

@@ -83,6 +83,9 @@ void requireWritable(const std::string& path, bool isForced) {
     throw Failure("the folder of " + inQuotes(path) + " is not there");
   if (isThere(path) && !platform::exists(path))
     throw Failure(inQuotes(path) + " is a link that leads nowhere");
+  std::error_code error;
+  if (isThere(path) && !fs::is_regular_file(path, error))
+    throw Failure(inQuotes(path) + " is no regular file");
   if (!isForced && isThere(path) && !isReport(path))
     throw Failure(inQuotes(path) + " is there and is no report; --force overwrites it");
 }
