@@ -68,7 +68,8 @@ std::vector<IncludeList::Entry> IncludeList::entries() const {
   std::vector<Entry> entries;
   for (std::string_view rest = text_; !rest.empty();) {
     const std::size_t begin = text_.size() - rest.size();
-    const std::string_view line = takePiece(rest);
+    // deliberate: whole lines. A list with a longer one is not changed, as its pieces would move.
+    const std::string_view line = takeLine(rest);
     const EntryForm* form = formOf(line);
     const std::size_t quote = line.find('"');
     if (form == nullptr || quote == std::string_view::npos)
