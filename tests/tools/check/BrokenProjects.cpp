@@ -84,6 +84,12 @@ std::vector<BrokenProject> missingFiles() {
   };
 }
 
+// Text of which the file "./tran.inc" is there.
+void appendToTranList(Project& project, const char* text) {
+  project.append(kTranList, text);
+  project.write(kTop + "tran/tran.inc", "");
+}
+
 std::vector<BrokenProject> brokenProfiles() {
   return {
       {"ProfileWithoutItsName", kSimulation,
@@ -151,31 +157,19 @@ std::vector<BrokenProject> brokenProfiles() {
        [](Project& p) { p.append(kTranList, ".INC load.inc\n"); },
        "dropped-entry " + kTranList + ":5"},
       {"EntryWithoutItsSecondQuote", kSimulation,
-       [](Project& p) {
-         p.append(kTranList, ".INC \"../../../local.inc\n.INC \"./tran.inc\"\n");
-         p.write(kTop + "tran/tran.inc", "");
-       },
+       [](Project& p) { appendToTranList(p, ".INC \"../../../local.inc\n.INC \"./tran.inc\"\n"); },
        "dropped-entry " + kTranList + ":5"},
       {"LineThatALoadDrops", kSimulation,
        [](Project& p) { p.append(kTranList, "* a comment\n\n"); },
        "dropped-line " + kTranList + ":5"},
       {"TextBehindAnEntry", kSimulation,
-       [](Project& p) {
-         p.append(kTranList, ".INC \"./tran.inc\" ; a comment\n");
-         p.write(kTop + "tran/tran.inc", "");
-       },
+       [](Project& p) { appendToTranList(p, ".INC \"./tran.inc\" ; a comment\n"); },
        "dropped-line " + kTranList + ":5"},
       {"EntriesInOneLine", kSimulation,
-       [](Project& p) {
-         p.append(kTranList, ".INC \"./tran.inc\"\r.INC \"./more.inc\"\r");
-         p.write(kTop + "tran/tran.inc", "");
-       },
+       [](Project& p) { appendToTranList(p, ".INC \"./tran.inc\"\r.INC \"./more.inc\"\r"); },
        "dropped-entry " + kTranList + ":5"},
       {"EntryBehindAnother", kSimulation,
-       [](Project& p) {
-         p.append(kTranList, ".INC \"./tran.inc\" .LIB \"more.lib\"\n");
-         p.write(kTop + "tran/tran.inc", "");
-       },
+       [](Project& p) { appendToTranList(p, ".INC \"./tran.inc\" .LIB \"more.lib\"\n"); },
        "dropped-entry " + kTranList + ":5"},
       {"EntryBehindBlanks", kSimulation,
        [](Project& p) { p.append(kTranList, "  .inc \"more.inc\"\n"); },
@@ -184,10 +178,7 @@ std::vector<BrokenProject> brokenProfiles() {
        [](Project& p) { p.append(kTranList, "\xef\xbb\xbf.inc \"more.inc\"\n"); },
        "dropped-entry " + kTranList + ":5"},
       {"QuoteBehindAnEntry", kSimulation,
-       [](Project& p) {
-         p.append(kTranList, ".INC \"./tran.inc\" ; with 5\" of cable\n");
-         p.write(kTop + "tran/tran.inc", "");
-       },
+       [](Project& p) { appendToTranList(p, ".INC \"./tran.inc\" ; with 5\" of cable\n"); },
        "dropped-line " + kTranList + ":5"},
   };
 }

@@ -78,37 +78,41 @@ TEST(LongLineOfAnIncludeList, IsLoadedInPieces) {
                    "dropped-line " + list + ":5"}));
 }
 
-// What is found while nobody but its owner may read a file or folder.
-Found findingsWithout(const CheckedSample& project, const std::string& name) {
-  const auto everything = std::filesystem::perms::owner_all;
-  std::filesystem::permissions(project.path(name), std::filesystem::perms::none);
-  Found found;
-  {
-    const UnprivilegedUser user;
-    if (user.isInForce())
-      found = findingsIn(project.checkedAsJson());
-    else
-      found = {"root cannot become another user here"};
+// What is found while nobody but root may look into a file or folder.
+class Forbidden : public ::testing::Test {
+protected:
+  void SetUp() override {
+    if (!UnprivilegedUser().isInForce())
+      GTEST_SKIP() << "root cannot become another user here";
   }
-  std::filesystem::permissions(project.path(name), everything);
-  return found;
-}
 
-TEST(ForbiddenFile, OfTheDesignIsTold) {
+  static Found findingsWithout(const CheckedSample& project, const std::string& name) {
+    std::filesystem::permissions(project.path(name), std::filesystem::perms::none);
+    Found found;
+    {
+      const UnprivilegedUser user;
+      found = findingsIn(project.checkedAsJson());
+    }
+    std::filesystem::permissions(project.path(name), std::filesystem::perms::owner_all);
+    return found;
+  }
+};
+
+TEST_F(Forbidden, FileOfTheDesignIsTold) {
   const CheckedSample project(kFlat);
   project.write("TOP.sch", "");
   project.replace("amp.tvp", "\"amp.dsn\"", "\"amp.dsn\", \"TOP.sch\"");
   EXPECT_EQ(findingsWithout(project, "TOP.sch"), Found{"unreadable-file amp.tvp:5"});
 }
 
-TEST(ForbiddenFile, IsNoDesignWithoutSchematics) {
+TEST_F(Forbidden, DesignIsNotOneWithoutSchematics) {
   const CheckedSample project(kFlat);
   const Found found = findingsWithout(project, "amp.dsn");
   ASSERT_FALSE(found.empty());
   EXPECT_EQ(found.front(), "unreadable-file amp.dsn");
 }
 
-TEST(ForbiddenFolder, IsNoEmptyFolderOfAProfile) {
+TEST_F(Forbidden, FolderIsNoEmptyOneOfAProfile) {
   const CheckedSample project(kSimulation);
   project.write("amp-TervixFiles/TOP/lost/precious", "");
   EXPECT_EQ(findingsWithout(project, "amp-TervixFiles/TOP/lost"),

@@ -51,8 +51,7 @@ struct IncludeListLine {
 void forEachLine(std::string_view includeList,
                  const std::function<void(const IncludeListLine&)>& tell);
 bool isBlankText(std::string_view text);
-// Whether text has what looks like an entry behind blanks, a byte order mark or a
-// carriage return.
+// Whether text has what looks like an entry behind blanks, a byte order mark or a carriage return.
 bool holdsEntry(std::string_view text);
 
 // Why the library would not load an entry for such a path; null when it would.
