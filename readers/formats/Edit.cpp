@@ -62,14 +62,20 @@ std::string Edit::setText(const Item& item, std::string_view value) const {
   return checked({change}, item, std::string(value));
 }
 
-std::string Edit::add(const Item& list, std::string_view value) const {
+std::string Edit::add(const Item& list, const std::vector<std::string>& added) const {
   std::vector<std::string> values = elements(list);
-  requireWritable(value);
-  values.emplace_back(value);
-  const std::string element = inQuotes(value);
+  std::vector<std::string> written;
+  for (const std::string& value : added) {
+    requireWritable(value);
+    values.push_back(value);
+    written.push_back(inQuotes(value));
+  }
+  if (added.empty()) {
+    return std::string(text_);
+  }
   const std::optional<Range> place = findValue(text_, list.section, list.name);
   const std::vector<Change> changes =
-      place ? addElement(text_, *place, element) : std::vector{newItem(list, '[' + element + ']')};
+      place ? addElements(text_, *place, written) : std::vector{newItem(list, newList(written))};
   return checked(changes, list, asArray(values));
 }
 

@@ -22,7 +22,7 @@ public:
   std::size_t indexOf(const Item& list, std::string_view value) const;
 
   std::string setText(const Item& item, std::string_view value) const;
-  std::string add(const Item& list, std::string_view value) const;
+  std::string add(const Item& list, const std::vector<std::string>& added) const;
   std::string remove(const Item& list, std::size_t index) const;
   std::string replace(const Item& list, std::size_t index, std::string_view value) const;
   std::string replaceAll(const Item& list, const std::vector<std::string>& values) const;

@@ -48,7 +48,14 @@ bool EditableFile::setText(std::string_view section, std::string_view item,
 
 bool EditableFile::addToList(std::string_view section, std::string_view item,
                              std::string_view value) noexcept {
-  return edit(file_, text_, [&](const Edit& edit) { return edit.add({section, item}, value); });
+  return edit(file_, text_, [&](const Edit& edit) {
+    return edit.add({section, item}, {std::string(value)});
+  });
+}
+
+bool EditableFile::addAllToList(std::string_view section, std::string_view item,
+                                const std::vector<std::string>& values) noexcept {
+  return edit(file_, text_, [&](const Edit& edit) { return edit.add({section, item}, values); });
 }
 
 bool EditableFile::removeFromList(std::string_view section, std::string_view item,

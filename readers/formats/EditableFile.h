@@ -30,9 +30,12 @@ public:
   std::optional<std::vector<std::string>> elementsOf(std::string_view section,
                                                      std::string_view item) const noexcept;
 
-  // These two make the section and the item when they are missing.
+  // These make the section and the item when they are missing.
   bool setText(std::string_view section, std::string_view item, std::string_view value) noexcept;
   bool addToList(std::string_view section, std::string_view item, std::string_view value) noexcept;
+  // As if added one by one, all or none.
+  bool addAllToList(std::string_view section, std::string_view item,
+                    const std::vector<std::string>& values) noexcept;
 
   // The first element that is exactly `value`. Names of one file may differ in case and separators:
   // whoever takes them for equal finds the element's index in elementsOf().

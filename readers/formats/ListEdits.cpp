@@ -50,13 +50,27 @@ std::string indentInEmptyList(std::string_view text, Range list, std::size_t las
   return indent + (indent.find('\t') == std::string::npos ? "  " : "\t");
 }
 
-Change addFirst(std::string_view text, Range list, const std::string& element) {
+std::string joined(const std::vector<std::string>& elements, std::string_view separator) {
+  std::string text = elements.front();
+  for (std::size_t i = 1; i < elements.size(); ++i) {
+    text.append(1, ',').append(separator).append(elements[i]);
+  }
+  return text;
+}
+
+std::string joinedLines(std::string_view text, std::size_t at, const std::string& indent,
+                        const std::vector<std::string>& elements) {
+  return indent + joined(elements, std::string(lineBreakNear(text, at)) + indent);
+}
+
+Change addFirst(std::string_view text, Range list, const std::vector<std::string>& added) {
   const std::size_t end = list.end - 1;
   const std::size_t lastLine = lineBegin(text, end);
   if (lastLine <= list.begin) {
-    return insertion(end, element + std::string(pieceOf(text, {list.begin + 1, end})));
+    return insertion(end, joined(added, " ") + std::string(pieceOf(text, {list.begin + 1, end})));
   }
-  return insertLine(text, lastLine, indentInEmptyList(text, list, lastLine) + element + ',');
+  const std::string indent = indentInEmptyList(text, list, lastLine);
+  return insertLine(text, lastLine, joinedLines(text, lastLine, indent, added) + ',');
 }
 
 // What parts the last two elements, as far as it can be repeated on their line.
@@ -72,21 +86,24 @@ std::string_view separator(std::string_view text, const std::vector<Element>& el
 }
 
 std::vector<Change> addBehind(std::string_view text, const std::vector<Element>& elements,
-                              const std::string& element) {
-  const std::string parted = std::string(separator(text, elements)) + element;
+                              const std::vector<std::string>& added) {
+  const std::string between(separator(text, elements));
+  const std::string parted = between + joined(added, between);
   const Element& last = elements.back();
   return {insertion(endOf(last), last.comma ? parted + ',' : ',' + parted)};
 }
 
-std::vector<Change> addLine(std::string_view text, Range list, const Element& last,
-                            const std::string& line) {
+std::vector<Change> addLines(std::string_view text, Range list, const Element& last,
+                             const std::string& indent, const std::vector<std::string>& added) {
   const std::size_t end = endOf(last);
+  const std::string lines = joinedLines(text, end, indent, added);
   const std::string ending = last.comma ? "," : "";
   const std::string missing = last.comma ? "" : ",";
   if (nextLine(text, end) >= list.end) {
-    return {insertion(end, missing + std::string(lineBreakNear(text, end)) + line + ending)};
+    return {insertion(end, missing + std::string(lineBreakNear(text, end)) + lines + ending)};
   }
-  return {insertion(last.value.end, missing), insertLine(text, nextLine(text, end), line + ending)};
+  return {insertion(last.value.end, missing),
+          insertLine(text, nextLine(text, end), lines + ending)};
 }
 
 const Element& firstOnLastLine(std::string_view text, const std::vector<Element>& elements) {
@@ -167,18 +184,23 @@ private:
 
 } // namespace
 
-std::vector<Change> addElement(std::string_view text, Range list, const std::string& element) {
+std::vector<Change> addElements(std::string_view text, Range list,
+                                const std::vector<std::string>& added) {
   const std::vector<Element> elements = elementsOf(text, list);
   if (elements.empty()) {
-    return {addFirst(text, list, element)};
+    return {addFirst(text, list, added)};
   }
   const Element& last = elements.back();
   const Element& first = firstOnLastLine(text, elements);
   const bool isAlone = &first == &last && beginsLine(text, last.value.begin);
   if (isAlone || isCommentNext(text, endOf(last))) {
-    return addLine(text, list, last, indentTo(text, first.value.begin) + element);
+    return addLines(text, list, last, indentTo(text, first.value.begin), added);
   }
-  return addBehind(text, elements, element);
+  return addBehind(text, elements, added);
+}
+
+std::string newList(const std::vector<std::string>& elements) {
+  return '[' + joined(elements, " ") + ']';
 }
 
 std::vector<Change> removeElement(std::string_view text, Range list, std::size_t index) {

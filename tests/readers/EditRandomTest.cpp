@@ -244,6 +244,25 @@ TEST_F(EditRandomTest, WhatIsAddedAtTheEndCanBeRemovedAgain) {
   }
 }
 
+TEST_F(EditRandomTest, SeveralAtOnceAreAddedAsOneByOne) {
+  for (unsigned seed = 0; seed < 300; ++seed) {
+    Dice dice(seed);
+    Model model;
+    const std::string before = Writer(dice, model).document();
+    const std::string section = dice.pick(sections);
+    const std::string item = dice.pick(items);
+    Values added(dice.below(4));
+    std::generate(added.begin(), added.end(), [&] { return dice.pick(values); });
+    EditableFile oneByOne = opened(before);
+    for (const std::string& value : added) {
+      EXPECT_TRUE(oneByOne.addToList(section, item, value));
+    }
+    EditableFile atOnce = opened(before);
+    EXPECT_TRUE(atOnce.addAllToList(section, item, added));
+    ASSERT_EQ(atOnce.text(), oneByOne.text()) << "seed " << seed << "\n" << before;
+  }
+}
+
 // Much of such a file is still TOML, if not what any person would write.
 TEST_F(EditRandomTest, DamagedFileIsEditedRightOrNotAtAll) {
   constexpr std::string_view pieces = "[]{}=,.#\"'\\ \t\n\r-s1";

@@ -97,9 +97,11 @@ using tervix::formats::EditableFile;
 TEST_F(OutOfMemoryTest, EditsFailCleanly) {
   const std::string before = "[Design]\nFiles = [\n  'a file name that is not a short one',\n]\n";
   const std::string project = folder.write("a project with a name that needs memory.tvp", before);
+  const std::vector<std::string> twoNames = {"b", "a second file name that is not a short one"};
   const std::vector<std::function<bool(EditableFile&)>> edits = {
       [](EditableFile& file) { return file.addToList("Design", "Files", "b"); },
       [](EditableFile& file) { return file.addToList("Tervix Resources", "Model Libraries", "b"); },
+      [twoNames](EditableFile& file) { return file.addAllToList("Design", "Files", twoNames); },
       [](EditableFile& file) { return file.setText("Design", "Root", "TOP"); },
       [](EditableFile& file) { return file.removeElement("Design", "Files", 0); },
       [](EditableFile& file) { return file.replaceElement("Design", "Files", 0, "b"); },

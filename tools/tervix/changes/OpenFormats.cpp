@@ -121,7 +121,11 @@ void OpenFormatFile::setActive(const std::string& displayName) {
 }
 
 void OpenFormatFile::addProfile(const std::string& file) {
-  require(file_.addToList(kProfiles, kFiles, file));
+  addProfiles({file});
+}
+
+void OpenFormatFile::addProfiles(const std::vector<std::string>& files) {
+  require(file_.addAllToList(kProfiles, kFiles, files));
 }
 
 void OpenFormatFile::removeProfiles(const std::function<bool(const std::string&)>& matches) {

@@ -27,6 +27,7 @@ public:
   void renameActive(const std::function<std::string(const std::string&)>& newDisplayName);
   void setActive(const std::string& displayName);
   void addProfile(const std::string& file);
+  void addProfiles(const std::vector<std::string>& files);
   // matches tells which of the registered files are meant.
   void removeProfiles(const std::function<bool(const std::string&)>& matches);
   void addProfileLike(const std::function<bool(const std::string&)>& matches,

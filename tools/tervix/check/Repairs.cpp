@@ -30,16 +30,17 @@ std::string unusedSavedFolder(const ProjectLayout& layout) {
 std::string repairedProjectFile(const std::string& path, const Repairs& repairs) {
   OpenFormatFile file(path);
   std::map<std::string, std::string> newTexts;
+  std::vector<std::string> profiles;
   for (const Repair* repair : repairs)
     if (repair->action == Repair::Action::kReplaceText)
       newTexts[repair->text] = repair->newText;
+    else if (repair->action == Repair::Action::kRegisterProfile)
+      profiles.push_back(repair->newText);
   file.renamePaths([&](const std::string& text) {
     const auto found = newTexts.find(text);
     return found == newTexts.end() ? text : found->second;
   });
-  for (const Repair* repair : repairs)
-    if (repair->action == Repair::Action::kRegisterProfile)
-      file.addProfile(repair->newText);
+  file.addProfiles(profiles);
   return file.text();
 }
 
