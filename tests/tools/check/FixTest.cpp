@@ -122,6 +122,9 @@ TEST_F(Fix, TellsProgramsWhatItDid) {
   EXPECT_EQ(json["fix"]["savedTo"], saved());
   EXPECT_EQ(json["fix"]["rewritten"].size(), 4U);
   EXPECT_EQ(json["fix"]["removed"].size(), 2U);
+  const auto again = project_.checkedAsJson({"--fix"});
+  EXPECT_EQ(again["fix"]["savedTo"], "");
+  EXPECT_EQ(again["fix"]["rewritten"].size() + again["fix"]["removed"].size(), 0U);
   EXPECT_EQ(project_.checkedAsJson()["fix"], nullptr);
 }
 

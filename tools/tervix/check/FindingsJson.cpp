@@ -18,7 +18,7 @@ Json jsonOfRepairs(const RepairPlan* repairs, bool areDone) {
   if (repairs == nullptr)
     return nullptr;
   return {{"done", areDone},
-          {"savedTo", repairs->savedTo},
+          {"savedTo", repairs->plan.isEmpty() ? "" : repairs->savedTo},
           {"rewritten", arrayOf(repairs->plan.rewritten,
                                 [](const ChangePlan::Rewritten& file) { return file.path; })},
           {"removed", repairs->plan.removed}};
