@@ -68,6 +68,14 @@ TEST(BrokenProjects, CoverEveryCode) {
   EXPECT_EQ(covered, known);
 }
 
+TEST(SecondFileOfAProfile, IsToldWithTheFirst) {
+  const CheckedSample project(kFlat);
+  project.write("copy.sim", project.content("amp-TOP-ac.sim"));
+  project.replace("amp.tvp", "\"./amp-TOP-ac.sim\"", "\"./amp-TOP-ac.sim\", \"./copy.sim\"");
+  EXPECT_EQ(project.checkedAsJson()["findings"].at(0)["message"],
+            R"("amp-TOP-ac.sim" is profile "ac" of schematic "TOP" already)");
+}
+
 // A piece of a line is a line to the library.
 TEST(LongLineOfAnIncludeList, IsLoadedInPieces) {
   const CheckedSample project(kSimulation);

@@ -1,6 +1,6 @@
 #include <filesystem>
 #include <set>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 
 #include "tools/tervix/Printable.h"
@@ -59,8 +59,9 @@ private:
     if (!facts_.hasSchematic(names.schematic))
       return {Code::kUnknownSchematic,
               "there is no schematic " + inQuotes(names.schematic) + " in the design"};
-    if (!profiles_.insert(named.key).second)
-      return {Code::kSameProfile, "another file is " + described(names) + " already"};
+    if (const auto [first, isFirst] = profiles_.emplace(named.key, &sim.path); !isFirst)
+      return {Code::kSameProfile,
+              findings_.named(*first->second) + " is " + described(names) + " already"};
     const std::string composed = composedPlace(named);
     if (!isSamePlace(composed, sim.path))
       return {Code::kMisplacedProfile, "it is " + described(names) + ", which is looked for at " +
@@ -148,7 +149,7 @@ private:
 
   ProjectFacts& facts_;
   Findings& findings_;
-  std::unordered_set<std::string> profiles_; // by their names
+  std::unordered_map<std::string, const std::string*> profiles_; // their files, by their names
 };
 
 // Lists in which an entry once is enough; the profiles are told with their files. What one file
