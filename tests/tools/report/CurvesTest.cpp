@@ -123,6 +123,19 @@ TEST_F(CurvesTest, OfANestedSweepBeginWithTheirOwnPhase) {
   EXPECT_NEAR(phases[4], -180, 1e-9);
 }
 
+TEST_F(CurvesTest, OfAFallingScaleKeepTheirPhaseWithinARun) {
+  RawText raw;
+  raw.flags = "complex";
+  raw.variables = {"frequency\tfrequency", "v(out)\tvoltage"};
+  raw.rows = {{100, 0, 0, -1}, {10, 0, -1, 0}, {1, 0, 0, 1}, {100, 0, 0, 1}, {10, 0, -1, 0}};
+  const std::vector<double> phases = plotOf(raw).charts[1].curves[0].values;
+  ASSERT_EQ(phases.size(), 5U);
+  EXPECT_NEAR(phases[1], -180, 1e-9);
+  EXPECT_NEAR(phases[2], -270, 1e-9);
+  EXPECT_NEAR(phases[3], 90, 1e-9);
+  EXPECT_NEAR(phases[4], 180, 1e-9);
+}
+
 TEST_F(CurvesTest, HaveAChartForEachQuantity) {
   RawText raw;
   raw.variables = {"v(v-sweep)\tvoltage", "v(a)\tvoltage", "i(v1)\tcurrent", "v(b)\tvoltage",

@@ -210,7 +210,8 @@ class Reports(unittest.TestCase):
         sizes = (1e-300, 2e-46, 3e-21, 7e-6, 5.0, 6e12, 9e45, 4e300)
         plots = [[size * value for value in shape] for size in sizes]
         plots += [[1 + 1e-12 * value for value in shape], [-1.7e308, 1.7e308, 1e300]]
-        self.open(projects.of_sizes(self.folder / "sizes", EXAMPLES / "amp-flat", plots))
+        self.open(projects.of_curves(self.folder / "sizes", EXAMPLES / "amp-flat",
+                                     [list(enumerate(values)) for values in plots]))
         read = self.value("""JSON.parse(document.getElementById("data").textContent)
             .project.schematics[0].profiles[0].outputs[0].plots
             .map((plot) => [...decoded(plot.charts[0].curves[0])])""")
@@ -225,6 +226,18 @@ class Reports(unittest.TestCase):
             .filter((text) => text.getBoundingClientRect().left
                 < text.ownerSVGElement.getBoundingClientRect().left)
             .map((text) => text.textContent)"""), [], "written within the chart")
+
+    def test_sweeps_that_begin_again_are_not_joined(self):
+        runs = {"rising": [0, 1, 2, 0, 1, 2], "falling": [2, 1, 0, 2, 1, 0], "there and back":
+                [0, 1, 2, 3, 2, 1, 0], "two points falling": [5, 0], "two points rising": [0, 5]}
+        self.open(projects.of_curves(self.folder / "sweeps", EXAMPLES / "amp-flat",
+                                     [[(at, number) for number, at in enumerate(scale)]
+                                      for scale in runs.values()]))
+        strokes = self.value("""[...document.querySelectorAll("svg.chart path.curve")]
+            .map((path) => path.getAttribute("d").match(/M/g).length)""")
+        self.assertEqual(dict(zip(runs, strokes, strict=True)),
+                         {"rising": 2, "falling": 2, "there and back": 1,
+                          "two points falling": 1, "two points rising": 1})
 
     def test_values_are_written_with_what_unit_and_size_allow(self):
         self.open(EXAMPLES / SAMPLES[0])

@@ -46,13 +46,17 @@ quit
 """
 
 
-def of_sizes(folder, sample, plots):
-    """A sample whose active profile has a plot for each list of values."""
+def plot_of(name, points):
+    return RAW.format(name=name, count=len(points),
+                      rows="\n".join(f"{number}\t{at!r}\n\t{value!r}"
+                                     for number, (at, value) in enumerate(points)))
+
+
+def of_curves(folder, sample, curves):
+    """A sample whose active profile has a plot for each list of points."""
     shutil.copytree(sample, folder)
     (folder / "amp-TOP-tran.dat").write_text("".join(
-        RAW.format(name=f"plot {number}", count=len(values),
-                   rows="\n".join(f"{at}\t{at}\n\t{value!r}" for at, value in enumerate(values)))
-        for number, values in enumerate(plots)))
+        plot_of(f"plot {number}", points) for number, points in enumerate(curves)))
     return folder / "amp.tvp"
 
 

@@ -29,6 +29,7 @@ struct Extent {
   double low = std::numeric_limits<double>::infinity();
   double high = -std::numeric_limits<double>::infinity();
   bool isRising = true;
+  double direction = 0; // of its first step: 1 up, -1 down
   std::vector<double> firstRow;
 };
 
@@ -64,6 +65,8 @@ private:
           row.begin(), row.end(), [](double value) { return !std::isfinite(value); }));
       const double scale = row.front();
       extent_.isRising = extent_.isRising && scale >= before;
+      if (extent_.direction == 0 && extent_.points > 0 && scale != before)
+        extent_.direction = scale < before ? -1 : 1;
       before = scale;
       if (std::isfinite(scale)) {
         extent_.low = std::min(extent_.low, scale);
@@ -111,11 +114,11 @@ private:
     Reduction reduction(values_.size());
     file_.rewind();
     std::size_t point = 0;
-    double before = 0;
+    double before = placeOf(extent_.firstRow.front());
     for (std::vector<double> row; file_.nextRow(row); ++point) {
       // A nested sweep begins again, and so does the phase.
       const double place = placeOf(row.front());
-      if (before - place > kLongWayBack)
+      if ((before - place) * extent_.direction > kLongWayBack)
         phases_.assign(phases_.size(), 0);
       before = place;
       convert(row);

@@ -10,6 +10,11 @@ function curveClass(number) {
   return `curve c${number % COLOURS} d${Math.floor(number / COLOURS) % 4}`;
 }
 
+// 1 for a scale that rises at first, -1 for one that falls.
+function directionOf(scale) {
+  return scale.find((value) => value !== scale[0]) < scale[0] ? -1 : 1;
+}
+
 // "Time" for "time", but "v(sweep)" as it is.
 function titled(name) {
   return /^[a-z]+$/.test(name) ? name.charAt(0).toUpperCase() + name.slice(1) : name;
@@ -115,6 +120,7 @@ class ChartView {
   pathOf(values, usable) {
     const scale = this.plot.scale.values;
     const back = (this.x.to - this.x.from) / 2;
+    const { direction } = this.plot.scale;
     let path = "";
     let before = null;
     for (let i = 0; i < scale.length; ++i) {
@@ -123,7 +129,7 @@ class ChartView {
         before = null;
         continue;
       }
-      path += before === null || before - x > back ? "M" : "L";
+      path += before === null || (before - x) * direction > back ? "M" : "L";
       path += `${x.toFixed(1)} ${this.y.place(values[i]).toFixed(1)}`;
       before = x;
     }

@@ -46,7 +46,8 @@ function valueTable(plot) {
 // The charts of a plot show the same curves and have one cursor.
 class PlotView {
   constructor(plot) {
-    this.scale = { ...plot.scale, values: decoded(plot.scale) };
+    const values = decoded(plot.scale);
+    this.scale = { ...plot.scale, values, direction: directionOf(values) };
     this.hidden = new Set();
     const rest = plot.charts.flatMap((chart) => chart.curves.slice(CURVES_SHOWN_FIRST));
     for (const curve of rest) this.hidden.add(curve.name);
