@@ -10,11 +10,6 @@ function curveClass(number) {
   return `curve c${number % COLOURS} d${Math.floor(number / COLOURS) % 4}`;
 }
 
-// 1 for a scale that rises at first, -1 for one that falls.
-function directionOf(scale) {
-  return scale.find((value) => value !== scale[0]) < scale[0] ? -1 : 1;
-}
-
 // "Time" for "time", but "v(sweep)" as it is.
 function titled(name) {
   return /^[a-z]+$/.test(name) ? name.charAt(0).toUpperCase() + name.slice(1) : name;

@@ -11,6 +11,11 @@ function decoded({ base, factor, data }) {
   return Float64Array.from({ length: bytes.length / 4 }, valueAt);
 }
 
+// 1 for a scale that rises at first, -1 for one that falls.
+function directionOf(scale) {
+  return scale.find((value) => value !== scale[0]) < scale[0] ? -1 : 1;
+}
+
 function remarkList(remarks) {
   return remarks.length
     ? make("ul", { class: "remarks" }, ...remarks.map((remark) => make("li", {}, remark))) : null;
